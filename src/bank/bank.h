@@ -1,0 +1,61 @@
+// The Observation bank: the folder tree under the bank root that takes the place
+// of the old drive. The system names its files as Windows paths below the drive
+// ("VARDOK\Bank\Access\ID.MDB"); one spelling per folder is kept on disk and the
+// names are matched without regard to case, so "Bank", "bank" and "BANK" are the
+// one folder.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace obsdesk {
+
+class Database;
+
+// The user's data folder for the bank: $XDG_DATA_HOME/obsdesk, else
+// ~/.local/share/obsdesk.
+std::filesystem::path default_bank_root();
+
+// A system path below the drive ("VARDOK\BANK\OIII\ACCESS\Kashf.mdb") as a file
+// under the bank root. A drive ("C:") in front is dropped; each part takes the
+// spelling it already has on disk.
+std::filesystem::path resolve_bank_path(const std::filesystem::path& root, std::string_view system_path);
+
+// The bank paths of the control databases, below the drive.
+std::string select_ostan_path(std::string_view prog);  // prog\Bank\Access\SelectOstan.MDB
+std::string back_color_path(std::string_view prog);
+std::string id_path(std::string_view prog);
+std::string past_path(std::string_view prog);
+std::string id_row_path(std::string_view prog);        // the second handle on ID
+
+// The program's hold on its bank: a second running copy on the same root is
+// refused. Tests on separate roots run side by side.
+class BankLock {
+ public:
+  // nullptr when another copy holds the root.
+  static std::unique_ptr<BankLock> acquire(const std::filesystem::path& root);
+  ~BankLock();
+  BankLock(const BankLock&) = delete;
+  BankLock& operator=(const BankLock&) = delete;
+
+ private:
+  explicit BankLock(int fd) : fd_(fd) {}
+  int fd_;
+};
+
+// True when the root holds no bank yet (missing or without the program folder).
+bool bank_is_new(const std::filesystem::path& root);
+
+// Creates the tree, the control databases and the demo station profile (Tehran
+// Mehrabad, WMO 40754, ICAO OIII, 1190.8 m, 35 41 N) with its empty KASHF table.
+// Throws BankError with the folder's name when the root cannot be written.
+void create_bank(const std::filesystem::path& root);
+
+// Schemas, all columns text.
+void create_kashf_table(Database& db);
+void create_past_table(Database& db);
+void create_station_table(Database& db);
+
+}  // namespace obsdesk

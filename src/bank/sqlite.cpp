@@ -1,0 +1,132 @@
+#include "bank/sqlite.h"
+
+#include <sqlite3.h>
+
+namespace obsdesk {
+
+Database::Database(const std::filesystem::path& file, Mode mode) : file_(file) {
+  if (mode == Mode::ReadWrite && !std::filesystem::exists(file))
+    throw BankError("database not found: " + file.string());
+  const int flags = SQLITE_OPEN_READWRITE | (mode == Mode::Create ? SQLITE_OPEN_CREATE : 0) |
+                    SQLITE_OPEN_NOMUTEX;
+  if (sqlite3_open_v2(file.c_str(), &db_, flags, nullptr) != SQLITE_OK) {
+    std::string msg = db_ ? sqlite3_errmsg(db_) : "out of memory";
+    sqlite3_close(db_);
+    db_ = nullptr;
+    throw BankError("cannot open database " + file.string() + ": " + msg);
+  }
+  sqlite3_busy_timeout(db_, 5000);
+  // Probe the file once so that a damaged one is told at opening, by its name.
+  try {
+    exec("PRAGMA schema_version");
+    exec("PRAGMA journal_mode=WAL");
+    exec("PRAGMA synchronous=FULL");
+  } catch (...) {
+    sqlite3_close(db_);
+    db_ = nullptr;
+    throw;
+  }
+}
+
+Database::~Database() { sqlite3_close(db_); }
+
+Database::Database(Database&& other) noexcept : db_(other.db_), file_(std::move(other.file_)) {
+  other.db_ = nullptr;
+}
+
+Database& Database::operator=(Database&& other) noexcept {
+  if (this != &other) {
+    sqlite3_close(db_);
+    db_ = other.db_;
+    file_ = std::move(other.file_);
+    other.db_ = nullptr;
+  }
+  return *this;
+}
+
+void Database::fail(std::string_view what) const {
+  std::string msg = db_ ? sqlite3_errmsg(db_) : "database not open";
+  throw BankError(std::string(what) + " " + file_.string() + ": " + msg);
+}
+
+void Database::exec(std::string_view sql) {
+  if (!db_) throw BankError("database not open");
+  char* err = nullptr;
+  if (sqlite3_exec(db_, std::string(sql).c_str(), nullptr, nullptr, &err) != SQLITE_OK) {
+    std::string msg = err ? err : "error";
+    sqlite3_free(err);
+    throw BankError("database error in " + file_.string() + ": " + msg);
+  }
+}
+
+Statement Database::prepare(std::string_view sql) {
+  if (!db_) throw BankError("database not open");
+  sqlite3_stmt* stmt = nullptr;
+  if (sqlite3_prepare_v2(db_, sql.data(), static_cast<int>(sql.size()), &stmt, nullptr) != SQLITE_OK)
+    fail("database error in");
+  return Statement(*this, stmt);
+}
+
+std::int64_t Database::last_insert_rowid() const { return sqlite3_last_insert_rowid(db_); }
+
+bool Database::has_table(std::string_view table) {
+  auto st = prepare("SELECT 1 FROM sqlite_master WHERE type='table' AND name=? COLLATE NOCASE");
+  st.bind(1, table);
+  return st.step();
+}
+
+std::vector<std::string> Database::table_columns(std::string_view table) {
+  std::vector<std::string> cols;
+  auto st = prepare("SELECT name FROM pragma_table_info(?)");
+  st.bind(1, table);
+  while (st.step()) cols.push_back(st.text(0));
+  return cols;
+}
+
+Statement::~Statement() { sqlite3_finalize(stmt_); }
+
+Statement& Statement::bind(int index, std::string_view text) {
+  if (sqlite3_bind_text(stmt_, index, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT) !=
+      SQLITE_OK)
+    db_->fail("database error in");
+  return *this;
+}
+
+Statement& Statement::bind(int index, std::int64_t value) {
+  if (sqlite3_bind_int64(stmt_, index, value) != SQLITE_OK) db_->fail("database error in");
+  return *this;
+}
+
+bool Statement::step() {
+  const int rc = sqlite3_step(stmt_);
+  if (rc == SQLITE_ROW) return true;
+  if (rc == SQLITE_DONE) return false;
+  sqlite3_reset(stmt_);
+  db_->fail("database error in");
+}
+
+std::string Statement::text(int column) const {
+  const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, column));
+  if (!p) return {};
+  return std::string(p, static_cast<std::size_t>(sqlite3_column_bytes(stmt_, column)));
+}
+
+std::int64_t Statement::integer(int column) const { return sqlite3_column_int64(stmt_, column); }
+
+bool Statement::is_null(int column) const { return sqlite3_column_type(stmt_, column) == SQLITE_NULL; }
+
+void Statement::reset() {
+  sqlite3_reset(stmt_);
+  sqlite3_clear_bindings(stmt_);
+}
+
+std::string quote_name(std::string_view name) {
+  std::string out = "\"";
+  for (char c : name) {
+    if (c == '"') out += "\"\"";
+    else out += c;
+  }
+  return out + "\"";
+}
+
+}  // namespace obsdesk

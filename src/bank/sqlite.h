@@ -1,0 +1,77 @@
+// A thin owner of SQLite handles. Every bank database is one SQLite file with
+// TEXT columns; failures become BankError with the file's name in the message.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace obsdesk {
+
+class BankError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+class Statement;
+
+class Database {
+ public:
+  enum class Mode { ReadWrite, Create };
+  Database() = default;
+  Database(const std::filesystem::path& file, Mode mode);
+  ~Database();
+  Database(Database&& other) noexcept;
+  Database& operator=(Database&& other) noexcept;
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+  bool is_open() const { return db_ != nullptr; }
+  const std::filesystem::path& file() const { return file_; }
+  void exec(std::string_view sql);
+  Statement prepare(std::string_view sql);
+  std::int64_t last_insert_rowid() const;
+  bool has_table(std::string_view table);
+  std::vector<std::string> table_columns(std::string_view table);
+  [[noreturn]] void fail(std::string_view what) const;
+
+ private:
+  sqlite3* db_ = nullptr;
+  std::filesystem::path file_;
+};
+
+class Statement {
+ public:
+  Statement(Database& db, sqlite3_stmt* stmt) : db_(&db), stmt_(stmt) {}
+  ~Statement();
+  Statement(Statement&& other) noexcept : db_(other.db_), stmt_(other.stmt_) { other.stmt_ = nullptr; }
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+  Statement& operator=(Statement&&) = delete;
+
+  Statement& bind(int index, std::string_view text);
+  Statement& bind(int index, std::int64_t value);
+  // Steps once: true while a row is there.
+  bool step();
+  void run() { while (step()) {} }
+  std::string text(int column) const;
+  std::int64_t integer(int column) const;
+  bool is_null(int column) const;
+  void reset();
+
+ private:
+  Database* db_;
+  sqlite3_stmt* stmt_;
+};
+
+// A table or column name quoted for SQL ("6HOURPAST", "type Pnegar").
+std::string quote_name(std::string_view name);
+
+}  // namespace obsdesk

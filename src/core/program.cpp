@@ -1,0 +1,238 @@
+#include "core/program.h"
+
+#include "bank/bank.h"
+#include "core/seams.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+namespace {
+
+const char* kCheckData = "     مــقدار داده را چــك نمـائيـــد";
+constexpr int kRun = 4;
+
+std::string prog(Workstation& ws) { return trim(ws.FrmMain.LabName.text); }
+
+// The chooser's file name without the drive: below the bank root, or from its
+// fourth character on when it carries a drive letter.
+std::string below_drive(Workstation& ws, std::string name) {
+  if (name.rfind(ws.Derive, 0) == 0) name = name.substr(ws.Derive.size());
+  else if (name.size() > 3 && name[1] == ':' && (name[2] == '\\' || name[2] == '/')) name = mid(name, 4);
+  for (char& c : name)
+    if (c == '/') c = '\\';
+  return name;
+}
+
+void FrmMain_load(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  open_control_databases(ws);
+  // No display modes to read on this platform: the size is the design size.
+  ws.set(m.TxtResolution, "800 * 600");
+  m.Frame3.back_color = parse_colour(m.TxtBackColor.text);
+}
+
+// Every activation: the databases again, the Rain path, the Station table, the
+// colours, the station row chosen by number, and the heading of the two screens.
+void FrmMain_activate(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  open_control_databases(ws);
+  ws.set(m.txtpathnamebank3, left(m.txtpathnamebank1.text, 24) + "Rain.mdb");
+  DataControl& station = ws.FrmOption.Station;
+  station.open(ws, resolve_bank_path(ws.bank_root(), m.txtpathnamebank2.text), "Station");
+  apply_colours(ws);
+  station.move_first(ws);
+  const double id = val(m.Text1.text);
+  if (!m.Text1.text.empty() && id != 0) {
+    for (long step = 1; step < static_cast<long>(id) && step < 1000; ++step) {
+      station.move_next(ws);
+      if (station.rs.eof()) {
+        ws.message("No Record Found", "Message");
+        station.move_previous(ws);
+      }
+    }
+  }
+  const std::string heading = station_heading(ws);
+  ws.set(ws.FrmKashf.Text44, heading);
+  ws.set(ws.FrmDisplayKashf.Text44, heading);
+}
+
+// The ID: at most three digits. The row takes effect at the next activation.
+void FrmMain_Text1_change(Workstation& ws) {
+  TextBox& t = ws.FrmMain.Text1;
+  bool good = len(t.text) <= 3;
+  for (std::size_t i = 1; good && i <= len(t.text); ++i) good = is_digit(char_at(t.text, i));
+  if (!good) {
+    ws.error(kCheckData);
+    ws.set(t, "");
+    ws.focus(t);
+    return;
+  }
+  Recordset& rs = ws.FrmMain.ID.rs;
+  if (rs.is_open() && !rs.eof() && !rs.bof() && rs.get("ID") != t.text) {
+    rs.edit();
+    rs.set("ID", t.text);
+    rs.update();
+  }
+}
+
+void hide_id(Workstation& ws) {
+  ws.FrmMain.Frame1.visible = false;
+  ws.FrmMain.Text1.visible = false;
+}
+
+void through_wait_screen(Workstation& ws, int code) {
+  ws.next_screen = code;
+  ws.show(ws.FrmEntezar);
+}
+
+void Command2_click(Workstation& ws) {  // "Run"
+  apply_colours(ws);
+  hide_id(ws);
+  ws.set(ws.FrmMain.txtutcpast, ws.FrmMain.txtutcpastb.text);
+  through_wait_screen(ws, kRun);
+}
+
+void cmdOpen_click(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  const std::string chosen = below_drive(ws, m.CommonDialog1.text);
+  if (m.CommonDialog1.text.empty()) return;  // the chooser was cancelled
+  const char* column = nullptr;
+  if (m.Option1.value) {
+    ws.set(m.txtpathnamebank1, chosen);
+    ws.set(m.txtpathnamebank3, left(chosen, 24) + "Rain.mdb");
+    column = "TXTPathNameBank1";
+  } else if (m.Option2.value) {
+    ws.set(m.txtpathnamebank2, chosen);
+    column = "TXTPathNameBank2";
+  }
+  Recordset& rs = m.IDPaths.rs;
+  if (column != nullptr && rs.is_open() && !rs.eof() && !rs.bof()) {
+    rs.edit();
+    rs.set(column, chosen);
+    rs.update();
+  }
+  m.Frame1.visible = false;
+}
+
+}  // namespace
+
+std::string station_heading(Workstation& ws) {
+  const FrmOption& o = ws.FrmOption;
+  return o.Text1.text + "  " + o.TXTCOD.text + "  " + o.NUMCOD.text;
+}
+
+void open_control_databases(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  const std::string p = prog(ws);
+  struct Db {
+    DataControl& control;
+    std::string path;
+    const char* table;
+  };
+  const Db dbs[] = {{m.SelectOstan, select_ostan_path(p), "NameOstan"},
+                    {m.BackColor, back_color_path(p), "N_BackColor"},
+                    {m.IDPaths, id_path(p), "ID"},
+                    {m.PAST, past_path(p), "Past"},
+                    {m.ID, id_row_path(p), "ID"}};
+  for (const Db& db : dbs) {
+    try {
+      db.control.open(ws, resolve_bank_path(ws.bank_root(), db.path), db.table);
+    } catch (const std::exception& e) {
+      ws.error(e.what());
+    }
+  }
+}
+
+long parse_colour(const std::string& text) {
+  const std::string t = trim(text);
+  if (t.empty()) return 0xC0C0C0;
+  return static_cast<long>(val(t));
+}
+
+void apply_colours(Workstation& ws) {
+  const long colour = parse_colour(ws.FrmMain.TxtBackColor.text);
+  for (Screen* s : std::initializer_list<Screen*>{&ws.FrmMain, &ws.FrmKashf,
+                    &ws.FrmDisplayKashf})
+    for (Control* c : s->controls())
+      if (c->kind == Kind::Frame) c->back_color = colour;
+}
+
+void open_next_screen(Workstation& ws, int code) {
+  switch (code) {
+    case 1: open_past_hours_editor(ws); break;
+    case 2: ws.show(ws.FrmOption); break;
+    case kRun:
+      ws.show(ws.FrmDisplayKashf);
+      ws.hide(ws.FrmMain);
+      break;
+    case 10: ws.FrmMain.Frame1.visible = true; break;
+    case 16: ws.show(ws.FrmHelp); break;
+    case 44: ws.show(ws.FrmKashf); break;
+    default: break;  // 3, 5, 6, 7, 8, 9, 15, 19 and any other: nothing
+  }
+}
+
+void start_program(Workstation& ws) {
+  namespace fs = std::filesystem;
+  const fs::path& root = ws.bank_root();
+  std::error_code ec;
+  fs::create_directories(root, ec);
+  if (ec) throw BankError("cannot create the bank root " + root.string() + ": " + ec.message());
+  auto lock = BankLock::acquire(root);
+  if (!lock) {
+    ws.message("Program Already Runned");
+    ws.end_program();
+    return;
+  }
+  if (bank_is_new(root)) create_bank(root);
+  ws.hold_lock(std::move(lock));
+  ws.show(ws.frmAbout);
+  ws.click(ws.frmAbout.cmdOK);
+}
+
+void wire_program(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  ws.frmAbout.cmdOK.on(Event::Click, [](Workstation& w) {
+    w.unload(w.frmAbout);
+    if (!w.FrmMain.loaded) w.show(w.FrmMain);
+  });
+  m.on(ScreenEvent::Load, FrmMain_load);
+  m.on(ScreenEvent::Activate, FrmMain_activate);
+  m.on(ScreenEvent::Unload, [](Workstation& w) { w.end_program(); });
+  m.Text1.on(Event::Change, FrmMain_Text1_change);
+  m.Command2.on(Event::Click, Command2_click);
+  m.Command10.on(Event::Click, [](Workstation& w) {
+    hide_id(w);
+    through_wait_screen(w, 2);
+  });
+  m.Command4.on(Event::Click, [](Workstation& w) { open_past_hours_editor(w); });
+  m.Command9.on(Event::Click, [](Workstation& w) {
+    hide_id(w);
+    w.show(w.FrmHelp);
+  });
+  m.CmdEnd.on(Event::Click, [](Workstation& w) { w.unload(w.FrmMain); });
+  m.Command1.on(Event::Click, [](Workstation& w) { w.FrmMain.ComboOstan.visible = !w.FrmMain.ComboOstan.visible; });
+  m.Label2.on(Event::Click, [](Workstation& w) { w.FrmMain.Text1.visible = !w.FrmMain.Text1.visible; });
+  m.Label34.on(Event::DblClick, [](Workstation& w) {
+    w.FrmMain.Text1.visible = false;
+    through_wait_screen(w, 10);
+  });
+  m.Label43.on(Event::Click, [](Workstation& w) { w.show(w.frmAbout); });
+  m.cmdOpen.on(Event::Click, cmdOpen_click);
+
+  ws.FrmEntezar.on(ScreenEvent::Activate, [](Workstation& w) {
+    w.post([](Workstation& w2) {
+      w2.FrmEntezar.ProgressBar1.text = "1000";
+      open_next_screen(w2, w2.next_screen);
+      w2.unload(w2.FrmEntezar);
+    });
+  });
+  ws.FrmERR.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmERR); });
+  ws.FrmHelp.Command1.on(Event::Click, [](Workstation& w) {
+    w.hide(w.FrmHelp);
+    w.show(w.FrmMain);
+  });
+}
+
+}  // namespace obsdesk

@@ -1,0 +1,387 @@
+#include "core/workstation.h"
+
+#include <algorithm>
+
+#include "bank/bank.h"
+#include "core/textnum.h"
+
+namespace obsdesk {
+
+namespace {
+
+bool is_box(const Control& c) { return c.kind == Kind::TextBox || c.kind == Kind::ComboBox; }
+
+// Handlers call handlers through the texts they set; a chain this deep is a loop
+// of the rules, stopped as the old runtime stopped it.
+constexpr int kMaxNesting = 200;
+// Queued focus moves and posted work handled after one input, at most.
+constexpr int kMaxSettleSteps = 1000;
+
+// Splits UTF-8 text into its characters.
+std::vector<std::string> characters(std::string_view text) {
+  std::vector<std::string> out;
+  const std::size_t n = len(text);
+  out.reserve(n);
+  for (std::size_t i = 1; i <= n; ++i) out.push_back(char_at(text, i));
+  return out;
+}
+
+}  // namespace
+
+Workstation::Workstation(std::filesystem::path bank_root, Services services)
+    : bank_root_(std::move(bank_root)), services_(services) {
+  Derive = bank_root_.string();
+  if (Derive.empty() || Derive.back() != '/') Derive += '/';
+  register_screens();
+  wire_all(*this);
+  for (Screen* s : screens_) s->snapshot_design();
+}
+
+Workstation::~Workstation() = default;
+
+void Workstation::register_screens() {
+  screens_ = {&frmAbout, &FrmMain, &FrmEntezar, &FrmERR, &FrmHelp, &FrmOption, &FrmKashf, &FrmDisplayKashf, &FrmCode};
+}
+
+Screen* Workstation::screen(std::string_view name) const {
+  for (Screen* s : screens_)
+    if (s->name == name) return s;
+  const std::string wanted = upper(name);
+  for (Screen* s : screens_)
+    if (upper(s->name) == wanted) return s;
+  return nullptr;
+}
+
+Control* Workstation::control(std::string_view qualified) const {
+  const auto dot = qualified.find('.');
+  if (dot == std::string_view::npos) return FrmKashf.find(qualified);
+  Screen* s = screen(qualified.substr(0, dot));
+  return s ? s->find(qualified.substr(dot + 1)) : nullptr;
+}
+
+// ---- Events --------------------------------------------------------------------
+
+void Workstation::fire(Control& c, Event e) {
+  const Handler& h = c.handler(e);
+  if (!h) return;
+  if (e == Event::Change) {
+    if (c.in_change_) return;
+    c.in_change_ = true;
+  }
+  struct Guard {
+    Control& c;
+    bool change;
+    int& depth;
+    ~Guard() {
+      if (change) c.in_change_ = false;
+      --depth;
+    }
+  } guard{c, e == Event::Change, depth_};
+  ++depth_;
+  try {
+    if (depth_ > kMaxNesting) throw std::runtime_error("Out of stack space");
+    h(*this);
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& ex) {
+    // Each handler has its own trap: the description goes to the panel and the
+    // handler that raised it ends there.
+    error(ex.what());
+  }
+}
+
+void Workstation::fire(Screen& s, ScreenEvent e) {
+  const Handler& h = s.handler(e);
+  if (!h) return;
+  ++depth_;
+  try {
+    h(*this);
+  } catch (const UsageError&) {
+    --depth_;
+    throw;
+  } catch (const std::exception& ex) {
+    error(ex.what());
+  }
+  --depth_;
+}
+
+template <typename F>
+void Workstation::input(F&& f) {
+  if (ended_) throw UsageError("the program has ended");
+  f();
+  settle();
+}
+
+void Workstation::settle() {
+  int steps = 0;
+  while (!ended_ && (!focus_queue_.empty() || !posted_.empty())) {
+    if (++steps > kMaxSettleSteps) {
+      // Two rules handing the focus back and forth: it stops where it stands.
+      focus_queue_.clear();
+      posted_.clear();
+      break;
+    }
+    if (!focus_queue_.empty()) {
+      Control* target = focus_queue_.front();
+      focus_queue_.pop_front();
+      apply_focus(*target);
+      continue;
+    }
+    Handler h = std::move(posted_.front());
+    posted_.pop_front();
+    try {
+      h(*this);
+    } catch (const UsageError&) {
+      throw;
+    } catch (const std::exception& ex) {
+      error(ex.what());
+    }
+  }
+}
+
+void Workstation::apply_focus(Control& target) {
+  if (!target.focusable() || !target.reachable() || !target.screen.takes_focus) return;
+  Screen& s = target.screen;
+  activate(s);
+  Control* old = s.active;
+  if (old == &target) return;
+  s.active = &target;
+  if (old != nullptr && is_box(*old)) old->back_color = kWhite;
+  if (is_box(target)) target.back_color = kGreen;
+  if (old != nullptr) fire(*old, Event::Leave);
+  fire(target, Event::Enter);
+}
+
+void Workstation::activate(Screen& s) {
+  if (active_screen_ == &s) return;
+  Screen* old = active_screen_;
+  active_screen_ = &s;
+  if (old != nullptr) fire(*old, ScreenEvent::Deactivate);
+  fire(s, ScreenEvent::Activate);
+}
+
+void Workstation::hover(Control& c) {
+  if (hovered_ == &c) {
+    fire(c, Event::MouseMove);
+    return;
+  }
+  Control* old = hovered_;
+  hovered_ = &c;
+  if (old != nullptr) fire(*old, Event::MouseLeave);
+  fire(c, Event::MouseMove);
+}
+
+void Workstation::require_reachable(Control& c) const {
+  if (!c.reachable()) throw UsageError(c.full_name() + " cannot be reached now");
+}
+
+void Workstation::type(Control& c, std::string_view text) {
+  input([&] {
+    require_reachable(c);
+    if (!c.focusable()) throw UsageError(c.full_name() + " takes no typing");
+    focus(c);
+    settle();
+    if (focused() != &c) return;
+    if (text.empty()) {
+      if (!c.locked) set(c, "");
+      return;
+    }
+    bool first = true;  // the first key replaces the selected text
+    for (const std::string& ch : characters(text)) {
+      if (focused() != &c || ended_) break;
+      if (!c.locked) {
+        std::string t = first ? ch : c.text + ch;
+        if (c.max_length == 0 || len(t) <= static_cast<std::size_t>(c.max_length)) {
+          c.text = std::move(t);
+          fire(c, Event::Change);
+        }
+      }
+      first = false;
+      settle();
+      if (focused() == &c && !ended_) {
+        key_ = ch;
+        fire(c, Event::KeyUp);
+        settle();
+      }
+    }
+  });
+}
+
+void Workstation::set_text(Control& c, std::string text) {
+  input([&] { set(c, std::move(text)); });
+}
+
+void Workstation::choose(Control& list, std::string_view item) {
+  input([&] {
+    require_reachable(list);
+    if (list.kind != Kind::ComboBox) throw UsageError(list.full_name() + " is not a list");
+    if (std::find(list.items.begin(), list.items.end(), item) == list.items.end())
+      throw UsageError("\"" + std::string(item) + "\" is not an item of " + list.full_name());
+    hover(list);
+    focus(list);
+    settle();
+    if (focused() != &list) return;
+    set(list, std::string(item));
+    fire(list, Event::Click);
+  });
+}
+
+void Workstation::click(Control& c) {
+  input([&] {
+    require_reachable(c);
+    hover(c);
+    if (c.focusable() && c.screen.takes_focus) {
+      focus(c);
+      settle();
+      if (focused() != &c) return;  // the focus rule sent it elsewhere: no click
+    }
+    fire(c, Event::MouseUp);
+    if (!c.reachable()) return;
+    if (c.kind == Kind::OptionButton) {
+      for (Control* other : c.screen.controls())
+        if (other->kind == Kind::OptionButton && other->container == c.container) other->value = false;
+      c.value = true;
+    }
+    fire(c, Event::Click);
+  });
+}
+
+void Workstation::dbl_click(Control& c) {
+  input([&] {
+    require_reachable(c);
+    hover(c);
+    fire(c, Event::Click);
+    if (c.reachable()) fire(c, Event::DblClick);
+  });
+}
+
+void Workstation::focus_now(Control& c) {
+  input([&] {
+    require_reachable(c);
+    if (!c.focusable()) throw UsageError(c.full_name() + " cannot hold the focus");
+    focus(c);
+  });
+}
+
+void Workstation::press_enter() {
+  input([&] {
+    Control* c = focused();
+    if (c == nullptr) return;
+    key_ = "\r";
+    fire(*c, Event::KeyEnter);
+    settle();
+    if (focused() == c && !ended_) fire(*c, Event::KeyUp);
+  });
+}
+
+void Workstation::key_up(Control& c, std::string key) {
+  input([&] {
+    key_ = std::move(key);
+    fire(c, Event::KeyUp);
+  });
+}
+
+// ---- Used by the rules ------------------------------------------------------------
+
+void Workstation::set(Control& c, std::string text) {
+  if (c.text == text) return;
+  c.text = std::move(text);
+  fire(c, Event::Change);
+}
+
+void Workstation::focus(Control& c) { focus_queue_.push_back(&c); }
+
+void Workstation::error(std::string caption) {
+  messages_.push_back("FrmERR: " + caption);
+  FrmERR.Label1.text = std::move(caption);
+  FrmERR.loaded = true;
+  FrmERR.visible = true;
+}
+
+bool Workstation::ask(const std::string& question) {
+  const bool yes = services_.asker.ask(question);
+  messages_.push_back("? " + question + " -> " + (yes ? "yes" : "no"));
+  return yes;
+}
+
+void Workstation::message(const std::string& text, const std::string& title) {
+  messages_.push_back("box: " + text + (title.empty() ? "" : " [" + title + "]"));
+  services_.asker.tell(text, title);
+}
+
+void Workstation::show(Screen& s) {
+  if (ended_) return;
+  if (!s.loaded) {
+    s.loaded = true;
+    fire(s, ScreenEvent::Load);
+  }
+  s.visible = true;
+  z_order_.erase(std::remove(z_order_.begin(), z_order_.end(), &s), z_order_.end());
+  z_order_.push_back(&s);
+  activate(s);
+}
+
+void Workstation::show_modal(Screen& s, Handler on_close) {
+  s.on_close_ = std::move(on_close);
+  show(s);
+}
+
+void Workstation::hide(Screen& s) {
+  const bool was_active = active_screen_ == &s;
+  s.visible = false;
+  z_order_.erase(std::remove(z_order_.begin(), z_order_.end(), &s), z_order_.end());
+  if (was_active) {
+    active_screen_ = nullptr;
+    fire(s, ScreenEvent::Deactivate);
+    for (auto it = z_order_.rbegin(); it != z_order_.rend(); ++it) {
+      if ((*it)->visible) {
+        activate(**it);
+        break;
+      }
+    }
+  }
+  if (s.on_close_) {
+    Handler h = std::move(s.on_close_);
+    s.on_close_ = nullptr;
+    try {
+      h(*this);
+    } catch (const UsageError&) {
+      throw;
+    } catch (const std::exception& ex) {
+      error(ex.what());
+    }
+  }
+}
+
+void Workstation::unload(Screen& s) {
+  if (!s.loaded) return;
+  fire(s, ScreenEvent::Unload);
+  hide(s);
+  if (hovered_ != nullptr && &hovered_->screen == &s) hovered_ = nullptr;
+  s.reset_to_design();
+  s.loaded = false;
+}
+
+void Workstation::post(Handler h) { posted_.push_back(std::move(h)); }
+
+void Workstation::end_program() {
+  ended_ = true;
+  for (Screen* s : screens_) s->visible = false;
+  z_order_.clear();
+  active_screen_ = nullptr;
+  focus_queue_.clear();
+  posted_.clear();
+  lock_.reset();
+}
+
+Control* Workstation::focused() const { return active_screen_ ? active_screen_->active : nullptr; }
+
+std::vector<std::string> Workstation::take_messages() {
+  std::vector<std::string> out;
+  out.swap(messages_);
+  return out;
+}
+
+void Workstation::hold_lock(std::unique_ptr<BankLock> lock) { lock_ = std::move(lock); }
+
+}  // namespace obsdesk

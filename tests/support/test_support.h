@@ -1,0 +1,43 @@
+// Shared by the tests: a bank in a fresh temporary folder, and a workstation
+// started on it with a queue of answers, a clock set by hand and a clipboard in
+// memory.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "core/services.h"
+#include "core/workstation.h"
+
+namespace obsdesk::test {
+
+// A temporary folder, removed with everything in it at the end of the test.
+class TempDir {
+ public:
+  TempDir();
+  ~TempDir();
+  TempDir(const TempDir&) = delete;
+  TempDir& operator=(const TempDir&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// A workstation on its own bank. start() runs the program start.
+struct Station {
+  explicit Station(DateTime now = {2024, 3, 20, 5, 40, 0});
+  TempDir dir;
+  QueueAsker asker;
+  FixedClock clock;
+  MemoryClipboard clipboard;
+  std::unique_ptr<Workstation> ws;
+  std::filesystem::path root() const { return dir.path() / "bank"; }
+  Workstation& start();
+  // Start, "Run", and a new report opened on the entry screen.
+  Workstation& open_browser();
+  Control& at(const std::string& qualified);
+};
+
+}  // namespace obsdesk::test
