@@ -72,6 +72,7 @@ class Recordset {
   void stand_on(std::optional<std::int64_t> rowid, bool forward);
   std::optional<std::int64_t> query_rowid(std::string_view sql, std::optional<std::int64_t> arg,
                                           const std::optional<std::string>& pattern = std::nullopt);
+  std::optional<std::int64_t> find_from(std::string_view column, std::string_view pattern, std::int64_t after);
   void load(std::int64_t rowid);
   void require_current() const;
 

@@ -182,8 +182,9 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
     need(w, 2, 1000, "print CONTROL...");
     for (std::size_t i = 1; i < w.size(); ++i) {
       std::string name = w[i];
+      const std::string value = value_of(name);
       if (Control* c = ws_ ? ws_->control(name) : nullptr) name = c->full_name();
-      out_ << name << "=" << value_of(w[i]) << "\n";
+      out_ << name << "=" << value << "\n";
     }
   } else if (cmd == "dump") {
     need(w, 2, 2, "dump SCREEN");

@@ -1,0 +1,49 @@
+# obsdesk: the two everyday commands, and a few more.
+#   make run            build and run the demo session on a fresh demo bank
+#   make test           build with warnings as errors and run every test
+#   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
+#   make bench          build and run the benchmarks
+# Each installs the Debian packages it needs when they are missing.
+
+SHELL := /bin/bash
+BUILD ?= build
+JOBS ?= $(shell nproc)
+PACKAGES := g++ cmake ninja-build pkg-config libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
+SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOBSDESK_WERROR=ON
+
+.PHONY: deps configure run test test-sanitize bench clean
+
+deps:
+	@missing=""; \
+	for p in $(PACKAGES); do dpkg -s $$p >/dev/null 2>&1 || missing="$$missing $$p"; done; \
+	if [ -n "$$missing" ]; then \
+	  echo "installing:$$missing"; \
+	  $(SUDO) apt-get update -qq && \
+	  DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq --no-install-recommends $$missing; \
+	fi
+
+configure: deps
+	cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS)
+
+run: configure
+	cmake --build $(BUILD) --target obsdesk-cli -j $(JOBS)
+	rm -rf $(BUILD)/demo-bank
+	$(BUILD)/obsdesk-cli --bank $(BUILD)/demo-bank run examples/demo.scenario
+
+test: configure
+	cmake --build $(BUILD) -j $(JOBS)
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS) --timeout 1800
+
+test-sanitize: deps
+	cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DOBSDESK_WERROR=ON \
+	  -DOBSDESK_SANITIZE=ON -DOBSDESK_BENCH=OFF
+	cmake --build build-sanitize -j $(JOBS)
+	cd build-sanitize && ctest --output-on-failure -j $(JOBS) --timeout 3600
+
+bench: configure
+	cmake --build $(BUILD) --target obsdesk_bench -j $(JOBS)
+	$(BUILD)/bench/obsdesk_bench
+
+clean:
+	rm -rf $(BUILD) build-sanitize

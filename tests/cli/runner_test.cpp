@@ -1,0 +1,92 @@
+#include "cli/runner.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+TEST(SplitCommand, WordsQuotesAndComments) {
+  const struct {
+    const char* line;
+    std::vector<std::string> words;
+  } cases[] = {
+      {"", {}},
+      {"   # only a comment", {}},
+      {"type Text2 240", {"type", "Text2", "240"}},
+      {"choose Combo5 \"SYNOP    \"", {"choose", "Combo5", "SYNOP    "}},
+      {"set Text74 \"say \\\"hi\\\" \\\\ there\"", {"set", "Text74", "say \"hi\" \\ there"}},
+      {"type Text2 \"\"", {"type", "Text2", ""}},
+      {"print Text1 # why", {"print", "Text1"}},
+      {"expect Text2 a#b", {"expect", "Text2", "a#b"}},
+      {"\tenter\r", {"enter"}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(split_command(c.line), c.words) << c.line;
+  EXPECT_THROW(split_command("set Text1 \"open"), ScriptError);
+  EXPECT_THROW(split_command("set Text1 \"a\"b"), ScriptError);
+}
+
+struct Outcome {
+  int status;
+  std::string out, err;
+};
+
+Outcome run(const std::string& script) {
+  test::TempDir dir;
+  std::ostringstream out, err;
+  Runner r(dir.path() / "bank", out);
+  r.set_now({2024, 3, 20, 5, 40, 0});
+  std::istringstream in(script);
+  const int status = r.run(in, "s", err);
+  return {status, out.str(), err.str()};
+}
+
+TEST(Runner, PrintsExpectsAndTellsBadLinesByNumber) {
+  const struct {
+    const char* script;
+    int status;
+    const char* out;
+    const char* err;
+  } cases[] = {
+      {"start\nprint FrmKashf.Text44\n", 0, "FrmKashf.Text44=MEHRABAD AIRPORT  OIII  40754\n", ""},
+      {"start\nprint Text44 screen\n", 0, "FrmKashf.Text44=MEHRABAD AIRPORT  OIII  40754\nscreen=FrmMain\n", ""},
+      {"start\nexpect FrmMain.LabOstan TEHRAN\n", 0, "", ""},
+      {"start\n\nexpect FrmMain.LabOstan GUILAN\nprint screen\n", 1, "",
+       "s:3: expected FrmMain.LabOstan=\"GUILAN\", got \"TEHRAN\"\n"},
+      {"start\nfly away\n", 2, "", "s:2: unknown command fly\n"},
+      {"start\nprint FrmKashf.Nope\n", 2, "", "s:2: unknown control FrmKashf.Nope\n"},
+      {"click FrmMain.Command2\n", 2, "", "s:1: the program has not been started (use start)\n"},
+      {"start\ntype FrmKashf.Text2 1\n", 2, "", "s:2: FrmKashf.Text2 cannot be reached now\n"},
+      {"start\nanswer maybe\n", 2, "", "s:2: usage: answer yes|no\n"},
+      {"start\nclock 2024-13-01\n", 2, "", "s:2: not a time: 2024-13-01\n"},
+      {"start\nclick FrmMain.CmdEnd\nprint FrmMain.Text1\n", 2, "", "s:3: the program has ended (use start)\n"},
+      {"start\nclick FrmMain.Label2\ntype FrmMain.Text1 x\nmessages\n", 0,
+       "FrmERR:      مــقدار داده را چــك نمـائيـــد\n", ""},
+  };
+  for (const auto& c : cases) {
+    const Outcome r = run(c.script);
+    EXPECT_EQ(r.status, c.status) << c.script;
+    EXPECT_EQ(r.out, c.out) << c.script;
+    EXPECT_EQ(r.err, c.err) << c.script;
+  }
+}
+
+TEST(Runner, DumpsAScreenAsOneJsonObject) {
+  const Outcome r = run("start\ndump FrmERR\n");
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.out.rfind("{\"screen\":\"FrmERR\",\"visible\":false,\"controls\":{\"Label1\":{\"text\":\"\"", 0), 0u)
+      << r.out;
+  EXPECT_NE(r.out.find("\"items\":[\" 800 *  600\""), std::string::npos);
+}
+
+TEST(Runner, StartsAgainAfterTheProgramEnded) {
+  const Outcome r = run("start\nclick FrmMain.CmdEnd\nstart\nprint screen\n");
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "screen=FrmMain\n");
+}
+
+}  // namespace
+}  // namespace obsdesk

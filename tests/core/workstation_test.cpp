@@ -1,0 +1,256 @@
+// The event semantics every rule stands on, on a small screen of the test's own.
+#include "core/workstation.h"
+
+#include <gtest/gtest.h>
+
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+struct Pad : Screen {
+  Pad() : Screen("Pad") {}
+  TextBox A{*this, "A"};
+  TextBox B{*this, "B", 3};
+  TextBox C{*this, "C"};
+  Button Go{*this, "Go", "Go"};
+  Frame Box{*this, "Box"};
+  TextBox Inner{*this, "Inner"};
+  Frame Mask{*this, "Mask"};
+};
+
+class Events : public ::testing::Test {
+ protected:
+  Events() {
+    Screen::place(pad.Box, {&pad.Inner});
+    Screen::mask(pad.Mask, {&pad.C});
+    pad.Mask.visible = false;
+    ws().show(pad);
+  }
+  Workstation& ws() { return *station.ws; }
+  void log_focus(Control& c) {
+    c.on(Event::Enter, [this, &c](Workstation&) { trail += "enter " + c.name + ";"; });
+    c.on(Event::Leave, [this, &c](Workstation&) { trail += "leave " + c.name + ";"; });
+  }
+  test::Station station;
+  Pad pad;
+  std::string trail;
+};
+
+TEST_F(Events, ChangeFiresOnlyWhenTheTextDiffers) {
+  int changes = 0;
+  pad.A.on(Event::Change, [&](Workstation&) { ++changes; });
+  ws().set(pad.A, "x");
+  ws().set(pad.A, "x");
+  ws().set(pad.A, "y");
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(Events, AChangeHandlerIsNotReenteredByItsOwnOutput) {
+  int a_runs = 0;
+  // A empties itself (as a refusal does); B writes back into A.
+  pad.A.on(Event::Change, [&](Workstation& w) {
+    ++a_runs;
+    w.set(pad.B, pad.A.text + "!");
+    w.set(pad.A, "");
+  });
+  pad.B.on(Event::Change, [&](Workstation& w) { w.set(pad.A, "from B"); });
+  ws().set_text(pad.A, "go");
+  EXPECT_EQ(a_runs, 1);
+  EXPECT_EQ(pad.A.text, "");
+  EXPECT_EQ(pad.B.text, "go!");
+}
+
+TEST_F(Events, FocusMovesAfterTheHandlerLeaveThenEnter) {
+  log_focus(pad.A);
+  log_focus(pad.B);
+  ws().focus_now(pad.A);
+  pad.A.on(Event::KeyEnter, [&](Workstation& w) {
+    w.focus(pad.B);
+    trail += "handler goes on;";
+  });
+  trail.clear();
+  ws().press_enter();
+  EXPECT_EQ(trail, "handler goes on;leave A;enter B;");
+  EXPECT_EQ(ws().focused(), &pad.B);
+  EXPECT_EQ(pad.B.back_color, kGreen);
+  EXPECT_EQ(pad.A.back_color, kWhite);
+}
+
+TEST_F(Events, ARefusalOnLeavingReturnsTheFocus) {
+  log_focus(pad.B);
+  pad.A.on(Event::Enter, [&](Workstation&) { trail += "enter A;"; });
+  pad.A.on(Event::Leave, [&](Workstation& w) {
+    trail += "leave A;";
+    if (pad.A.text.empty()) w.focus(pad.A);
+  });
+  ws().focus_now(pad.A);
+  trail.clear();
+  ws().focus_now(pad.B);
+  EXPECT_EQ(trail, "leave A;enter B;leave B;enter A;");
+  EXPECT_EQ(ws().focused(), &pad.A);
+}
+
+TEST_F(Events, TwoRulesHandingTheFocusBackAndForthStop) {
+  pad.A.on(Event::Leave, [&](Workstation& w) { w.focus(pad.A); });
+  pad.B.on(Event::Leave, [&](Workstation& w) { w.focus(pad.B); });
+  ws().focus_now(pad.A);
+  ws().focus_now(pad.B);  // would hand the focus back and forth for ever
+  EXPECT_NE(ws().focused(), nullptr);
+}
+
+TEST_F(Events, TypingReplacesTheTextThenAddsOneCharacterAChange) {
+  std::vector<std::string> seen;
+  std::string keys;
+  pad.B.on(Event::Change, [&](Workstation&) { seen.push_back(pad.B.text); });
+  pad.B.on(Event::KeyUp, [&](Workstation& w) { keys += w.key(); });
+  ws().set_text(pad.B, "old");
+  seen.clear();
+  ws().type(pad.B, "1۲34");  // max length 3: the fourth key does nothing
+  EXPECT_EQ(seen, (std::vector<std::string>{"1", "1۲", "1۲3"}));
+  EXPECT_EQ(keys, "1۲34");
+  EXPECT_EQ(pad.B.text, "1۲3");
+}
+
+TEST_F(Events, TypingIntoALockedBoxChangesNothing) {
+  pad.A.locked = true;
+  pad.A.text = "keep";
+  ws().type(pad.A, "x");
+  EXPECT_EQ(pad.A.text, "keep");
+}
+
+TEST_F(Events, TypingStopsWhenARuleSendsTheFocusAway) {
+  pad.A.on(Event::Change, [&](Workstation& w) {
+    if (pad.A.text == "c") w.focus(pad.B);  // as "c" in the wind direction does
+  });
+  ws().type(pad.A, "cde");
+  EXPECT_EQ(pad.A.text, "c");
+  EXPECT_EQ(pad.B.text, "");
+  EXPECT_EQ(ws().focused(), &pad.B);
+}
+
+TEST_F(Events, AClickFocusesTheButtonFirstAndIsLostWhenTheFocusRuleMovesOn) {
+  int clicks = 0;
+  bool refuse = true;
+  pad.Go.on(Event::Enter, [&](Workstation& w) {
+    if (refuse) w.focus(pad.A);
+  });
+  pad.Go.on(Event::Click, [&](Workstation&) { ++clicks; });
+  ws().click(pad.Go);
+  EXPECT_EQ(clicks, 0);
+  refuse = false;
+  ws().click(pad.Go);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Events, TheMessagePanelDoesNotHoldTheCaller) {
+  std::string after;
+  pad.A.on(Event::Change, [&](Workstation& w) {
+    w.error("مــقدار را چــك نمـائيـــد");
+    after = "went on";
+  });
+  ws().focus_now(pad.A);
+  ws().set_text(pad.A, "x");
+  EXPECT_EQ(after, "went on");
+  EXPECT_TRUE(ws().FrmERR.visible);
+  EXPECT_EQ(ws().FrmERR.Label1.text, "مــقدار را چــك نمـائيـــد");
+  EXPECT_EQ(ws().active_screen(), &pad);
+  ws().click(ws().FrmERR.Command1);
+  EXPECT_FALSE(ws().FrmERR.visible);
+  EXPECT_EQ(ws().focused(), &pad.A);
+  EXPECT_EQ(ws().take_messages(), std::vector<std::string>{"FrmERR: مــقدار را چــك نمـائيـــد"});
+}
+
+TEST_F(Events, QuestionsAreAnsweredFromTheQueueThenYes) {
+  station.asker.queue(false);
+  EXPECT_FALSE(ws().ask("one?"));
+  EXPECT_TRUE(ws().ask("two?"));
+  EXPECT_EQ(ws().take_messages(), (std::vector<std::string>{"? one? -> no", "? two? -> yes"}));
+}
+
+TEST_F(Events, AFailingHandlerIsToldOnThePanelAndTheRestGoesOn) {
+  pad.A.on(Event::Change, [](Workstation&) { throw std::runtime_error("Type mismatch"); });
+  int b_changes = 0;
+  pad.B.on(Event::Change, [&](Workstation&) { ++b_changes; });
+  ws().set_text(pad.A, "x");
+  ws().set_text(pad.B, "y");
+  EXPECT_EQ(ws().FrmERR.Label1.text, "Type mismatch");
+  EXPECT_EQ(b_changes, 1);
+}
+
+TEST_F(Events, AnEndlessChainOfChangesIsStopped) {
+  // Each change sets a longer text: every set differs, so only the depth stops it.
+  pad.A.on(Event::Change, [&](Workstation& w) { w.set(pad.B, pad.A.text + "a"); });
+  pad.B.on(Event::Change, [&](Workstation& w) { w.set(pad.C, pad.B.text + "b"); });
+  pad.C.on(Event::Change, [&](Workstation& w) { w.set(pad.A, pad.C.text + "c"); });
+  ws().set_text(pad.A, "x");
+  EXPECT_EQ(pad.B.text, "xa");  // A is guarded while its handler runs
+}
+
+TEST_F(Events, HiddenFramesAndMasksKeepTheirBoxesOutOfReach) {
+  EXPECT_TRUE(pad.Inner.reachable());
+  pad.Box.visible = false;
+  EXPECT_FALSE(pad.Inner.reachable());
+  EXPECT_THROW(ws().type(pad.Inner, "1"), UsageError);
+  EXPECT_TRUE(pad.C.reachable());
+  pad.Mask.visible = true;
+  EXPECT_FALSE(pad.C.reachable());
+  ws().focus(pad.C);  // a rule's move to a box out of reach is dropped
+  ws().focus_now(pad.A);
+  EXPECT_EQ(ws().focused(), &pad.A);
+}
+
+TEST_F(Events, UnloadPutsTheControlsBackAsDesigned) {
+  pad.A.text = "design";
+  pad.snapshot_design();
+  ws().set_text(pad.A, "typed");
+  pad.B.visible = false;
+  int unloads = 0;
+  pad.on(ScreenEvent::Unload, [&](Workstation&) { ++unloads; });
+  ws().unload(pad);
+  EXPECT_EQ(unloads, 1);
+  EXPECT_EQ(pad.A.text, "design");
+  EXPECT_TRUE(pad.B.visible);
+  EXPECT_FALSE(pad.visible);
+}
+
+TEST_F(Events, AModalScreenHandsBackToItsCallerWhenItCloses) {
+  Pad dialog;
+  std::string result;
+  ws().show_modal(dialog, [&](Workstation&) { result = dialog.A.text; });
+  EXPECT_EQ(ws().active_screen(), &dialog);
+  ws().set_text(dialog.A, "chosen");
+  ws().hide(dialog);
+  EXPECT_EQ(result, "chosen");
+  EXPECT_EQ(ws().active_screen(), &pad);
+}
+
+TEST_F(Events, OpeningAnotherScreenDoesNotMakeTheBoxLeave) {
+  log_focus(pad.A);
+  ws().focus_now(pad.A);
+  Pad board;
+  trail.clear();
+  ws().show(board);
+  ws().focus_now(board.A);
+  ws().hide(board);
+  EXPECT_EQ(trail, "");
+  EXPECT_EQ(ws().focused(), &pad.A);
+}
+
+TEST_F(Events, OneHandlerAMoment) {
+  pad.A.on(Event::Change, [](Workstation&) {});
+  EXPECT_THROW(pad.A.on(Event::Change, [](Workstation&) {}), std::logic_error);
+}
+
+TEST_F(Events, ControlsAreFoundByScreenAndName) {
+  EXPECT_EQ(ws().control("FrmKashf.Text27"), &ws().FrmKashf.Text27);
+  EXPECT_EQ(ws().control("Text27"), &ws().FrmKashf.Text27);
+  EXPECT_EQ(ws().control("frmcode.text77"), &ws().FrmCode.Text77);
+  EXPECT_EQ(ws().control("FrmKashf.Nope"), nullptr);
+  EXPECT_EQ(ws().control("Nope.Text1"), nullptr);
+  // Text1 and txt1 differ by more than case: both found exactly.
+  EXPECT_EQ(ws().control("txt1"), &ws().FrmKashf.txt1);
+}
+
+}  // namespace
+}  // namespace obsdesk
