@@ -147,28 +147,28 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
     start_program(*ws_);
   } else if (cmd == "click") {
     need(w, 2, 2, "click CONTROL");
-    ws_->click(control(w[1]));
+    require_started().click(control(w[1]));
   } else if (cmd == "dblclick") {
     need(w, 2, 2, "dblclick CONTROL");
-    ws_->dbl_click(control(w[1]));
+    require_started().dbl_click(control(w[1]));
   } else if (cmd == "type") {
     need(w, 3, 3, "type CONTROL TEXT");
-    ws_->type(control(w[1]), w[2]);
+    require_started().type(control(w[1]), w[2]);
   } else if (cmd == "set") {
     need(w, 3, 3, "set CONTROL TEXT");
-    ws_->set_text(control(w[1]), w[2]);
+    require_started().set_text(control(w[1]), w[2]);
   } else if (cmd == "choose") {
     need(w, 3, 3, "choose CONTROL ITEM");
-    ws_->choose(control(w[1]), w[2]);
+    require_started().choose(control(w[1]), w[2]);
   } else if (cmd == "focus") {
     need(w, 2, 2, "focus CONTROL");
-    ws_->focus_now(control(w[1]));
+    require_started().focus_now(control(w[1]));
   } else if (cmd == "enter") {
     need(w, 1, 1, "enter");
     require_started().press_enter();
   } else if (cmd == "key") {
     need(w, 3, 3, "key CONTROL KEY");
-    ws_->key_up(control(w[1]), w[2]);
+    require_started().key_up(control(w[1]), w[2]);
   } else if (cmd == "answer") {
     need(w, 2, 2, "answer yes|no");
     if (w[1] != "yes" && w[1] != "no") throw ScriptError("usage: answer yes|no");

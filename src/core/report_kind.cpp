@@ -77,7 +77,7 @@ void Combo5_change(Workstation& ws) {
 
   if (kind == kMetar) ws.focus(k.Text1);
   if (timed) ws.focus(k.txt1);
-  if (synop_kind) open_irix_picker(ws);
+  if (synop_kind) open_irix_picker(ws, false);
 }
 
 void wire_report_kind(Workstation& ws) { ws.FrmKashf.Combo5.on(Event::Change, Combo5_change); }

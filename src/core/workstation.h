@@ -84,6 +84,12 @@ class Workstation {
   std::string SynopLine1, SynopLine2, MetarLine1, MetarLine2, SpeciLine1, SpeciLine2;
   int WeatherBoxSelect = 0;  // which box a picker board serves
 
+  // Values kept between the rules of different topics.
+  int humidity_mode = 0;     // 1: the observer types RH and the wet bulb is derived
+  std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
+  std::string GroundTemp;    // the rounded ground minimum, two figures
+  std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }
   DateTime now() { return services_.clock.now(); }

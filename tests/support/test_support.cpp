@@ -34,6 +34,12 @@ Workstation& Station::open_browser() {
   return *ws;
 }
 
+Workstation& Station::open_entry() {
+  open_browser();
+  ws->show(ws->FrmKashf);
+  return *ws;
+}
+
 Control& Station::at(const std::string& qualified) {
   Control* c = ws->control(qualified);
   if (c == nullptr) throw std::runtime_error("no control " + qualified);

@@ -35,8 +35,10 @@ struct Station {
   std::unique_ptr<Workstation> ws;
   std::filesystem::path root() const { return dir.path() / "bank"; }
   Workstation& start();
-  // Start, "Run", and a new report opened on the entry screen.
+  // Start and "Run": the record browser.
   Workstation& open_browser();
+  // Start, "Run", and a new report opened on the entry screen.
+  Workstation& open_entry();
   Control& at(const std::string& qualified);
 };
 
