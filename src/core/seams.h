@@ -16,6 +16,11 @@ struct Control;
 // rule and on every change of the hour.
 void apply_hour_rules(Workstation& ws);
 
+// ---- Calendar ----
+// Today's date from the computer's clock into the six date boxes of the entry
+// screen, Persian by the conversion, with the clearing tests of the opening.
+void fill_today(Workstation& ws);
+
 // ---- Cloud entry ----
 // Tests a layer height (HIGL1 to HIGL3, HIGM, HIGH) against its range; outside it
 // tells the layer's words, empties the box and returns the focus. True when good.
