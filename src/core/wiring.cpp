@@ -5,11 +5,42 @@
 
 namespace obsdesk {
 
+// Each topic declares its wire function here and binds its own rules in it.
+
+// stations
+
+// session
+
+// barometer and psychrometry
+
+// rain and tendency
+
+// coders
+
+// pickers
+
+// archive
+
 // Every topic binds its own rules; this is the one list of them.
 void wire_all(Workstation& ws) {
   wire_program(ws);
   wire_report_kind(ws);
   wire_browser(ws);
+
+  // stations
+
+  // session
+
+  // barometer and psychrometry
+
+  // rain and tendency
+
+  // coders
+
+  // pickers
+
+  // archive
+
 }
 
 }  // namespace obsdesk

@@ -41,6 +41,22 @@ Workstation::~Workstation() = default;
 
 void Workstation::register_screens() {
   screens_ = {&frmAbout, &FrmMain, &FrmEntezar, &FrmERR, &FrmHelp, &FrmOption, &FrmKashf, &FrmDisplayKashf, &FrmCode};
+  // Each topic adds its own screens below its line.
+
+  // stations
+
+  // session
+
+  // barometer and psychrometry
+
+  // rain and tendency
+
+  // coders
+
+  // pickers
+
+  // archive
+
 }
 
 Screen* Workstation::screen(std::string_view name) const {

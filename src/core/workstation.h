@@ -70,6 +70,21 @@ class Workstation {
   obsdesk::FrmDisplayKashf FrmDisplayKashf;
   obsdesk::FrmCode FrmCode;
 
+  // Screens of the stations topic.
+
+  // Screens of the session and its entry rules.
+
+  // Screens of the barometer and psychrometry.
+
+  // Screens of rain and the pressure tendency.
+
+  // Screens of the coders.
+
+  // Screens of the phenomenon pickers.
+
+  // Screens of the archive.
+
+
   const std::vector<Screen*>& screens() const { return screens_; }
   Screen* screen(std::string_view name) const;
   // "SCREEN.NAME", or a bare name of FrmKashf; nullptr when there is none.
