@@ -8,6 +8,7 @@ namespace obsdesk {
 // Each topic declares its wire function here and binds its own rules in it.
 
 // stations
+void wire_catalogue(Workstation& ws);
 
 // session
 
@@ -28,6 +29,7 @@ void wire_all(Workstation& ws) {
   wire_browser(ws);
 
   // stations
+  wire_catalogue(ws);
 
   // session
 

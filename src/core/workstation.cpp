@@ -44,6 +44,7 @@ void Workstation::register_screens() {
   // Each topic adds its own screens below its line.
 
   // stations
+  screens_.push_back(&FrmSelectStation);
 
   // session
 

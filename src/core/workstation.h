@@ -28,6 +28,7 @@
 #include "coders/frm_code.h"
 #include "core/control.h"
 #include "core/frm_kashf.h"
+#include "core/catalogue/select_station.h"
 #include "core/frm_main.h"
 #include "core/services.h"
 #include "core/small_screens.h"
@@ -71,6 +72,7 @@ class Workstation {
   obsdesk::FrmCode FrmCode;
 
   // Screens of the stations topic.
+  obsdesk::FrmSelectStation FrmSelectStation;
 
   // Screens of the session and its entry rules.
 

@@ -1,0 +1,155 @@
+// The station catalogue and the station picker.
+#include "core/catalogue/catalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "core/catalogue/select_station.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+// The number of stations each province registers; a name lost or doubled in the
+// table shows here.
+TEST(Catalogue, EveryGroupHasItsNumberOfStations) {
+  const std::pair<std::string_view, std::size_t> sizes[] = {
+      {"AZAR BAYJAN_GHARBI", 17}, {"AZAR BAYJAN_SHARGHI", 13}, {"ARDABIL", 12}, {"ISFAHAN", 22},
+      {"ILAM", 8}, {"BUSHEHR", 8}, {"TEHRAN", 16}, {"CHAHAR MAHAL O BAKHTIARI", 8},
+      {"KHORASAN RAZAVI", 17}, {"KHORASAN SHOMALI", 5}, {"KHORASAN JONUBI", 10}, {"KHOZESTAN", 20},
+      {"ZANJAN", 8}, {"SEMNAN", 9}, {"FARS", 23}, {"QAZVIN", 7}, {"QOM", 4}, {"KERMAN", 16},
+      {"KERMANSHAH", 13}, {"KOHKILUYEH V BOYER AHMAD", 5}, {"KORDESTAN", 9}, {"GOLESTAN", 7},
+      {"GUILAN", 13}, {"LORESTAN", 14}, {"MARKAZI", 10}, {"MAZANDARAN", 15}, {"HAMADAN", 5},
+      {"SISTAN O BALUCHESTAN", 10}, {"HORMOZGAN", 15}, {"YAZD", 11}};
+  const auto& groups = station_groups();
+  ASSERT_EQ(groups.size(), std::size(sizes));
+  std::size_t total = 0;
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    EXPECT_EQ(groups[i].province, sizes[i].first);
+    EXPECT_EQ(groups[i].names.size(), sizes[i].second) << sizes[i].first;
+    const std::set<std::string_view> unique(groups[i].names.begin(), groups[i].names.end());
+    EXPECT_EQ(unique.size(), groups[i].names.size()) << "a name twice in " << sizes[i].first;
+    for (std::string_view name : groups[i].names) EXPECT_FALSE(name.empty()) << sizes[i].first;
+    total += groups[i].names.size();
+  }
+  EXPECT_EQ(total, 350u);
+}
+
+TEST(Catalogue, ProvincesInListOrderEachWithOneGroup) {
+  const auto& list = provinces();
+  ASSERT_EQ(list.size(), 30u);
+  EXPECT_EQ(list.front(), "ARDABIL");
+  EXPECT_EQ(list[7], kFirstProvince);
+  EXPECT_EQ(list.back(), "ZANJAN");
+  EXPECT_TRUE(std::is_sorted(list.begin(), list.end()));
+  for (const std::string& p : list) {
+    const auto n = std::count_if(station_groups().begin(), station_groups().end(),
+                                 [&](const StationGroup& g) { return g.province == p; });
+    EXPECT_EQ(n, 1) << p;
+  }
+}
+
+TEST(Catalogue, AProvinceTextFindsItsGroupWhole) {
+  struct Case {
+    std::string_view province;
+    std::size_t size;
+    std::string_view first, last;
+  };
+  const Case table[] = {
+      {"KHORASAN SHOMALI", 5, "BOJNORD", "MANEH VA SEMELGHAN"},
+      {"khorasan shomali", 5, "BOJNORD", "MANEH VA SEMELGHAN"},  // matched in capitals
+      {"AZAR BAYJAN_SHARGHI", 13, "AHAR", " SARAB"},              // the blank is part of the name
+      {"ARDABIL", 12, " ARDABIL", "NIR"},
+      {"FARS", 23, "Ghir", "ZARRIN DASHT"},
+      {"QOM", 4, "KAHAK", "SALAFCHEGAN"},
+      {"", 0, "", ""},
+      {"TEHRAN ", 0, "", ""},  // the whole text must match
+      {"TEH", 0, "", ""},
+      {"AZARBAYJAN", 0, "", ""},
+  };
+  for (const Case& c : table) {
+    const auto names = stations_of(c.province);
+    ASSERT_EQ(names.size(), c.size) << c.province;
+    if (c.size == 0) continue;
+    EXPECT_EQ(names.front(), c.first) << c.province;
+    EXPECT_EQ(names.back(), c.last) << c.province;
+  }
+  const auto north = stations_of("KHORASAN SHOMALI");
+  EXPECT_EQ(north[2], "BOJNORD AIRPORT");
+  EXPECT_EQ(north[3], "JAJARM");
+}
+
+TEST(Catalogue, ChoosingAProvinceOnTheStartScreenSetsTheOneInUse) {
+  test::Station s;
+  Workstation& ws = s.start();
+  FrmMain& m = ws.FrmMain;
+  EXPECT_EQ(m.ComboOstan.text, "GUILAN");
+  EXPECT_EQ(m.ComboOstan.items, provinces());
+  EXPECT_EQ(m.LabOstan.text, "TEHRAN");  // the bank's own province
+  ws.click(m.Command1);
+  ASSERT_TRUE(m.ComboOstan.visible);
+  ws.choose(m.ComboOstan, "KERMAN");
+  EXPECT_EQ(m.LabOstan.text, "KERMAN");
+}
+
+struct Picked {
+  bool called = false;
+  std::string text;
+};
+
+void open_picker(Workstation& ws, const std::string& start, Picked& out) {
+  select_station(ws, start, [&out](Workstation&, const std::string& t) {
+    out.called = true;
+    out.text = t;
+  });
+}
+
+TEST(Catalogue, ThePickerReturnsTheChosenNameAsItStands) {
+  test::Station s;
+  Workstation& ws = s.start();
+  FrmSelectStation& d = ws.FrmSelectStation;
+  ws.click(ws.FrmMain.Command1);
+  ws.choose(ws.FrmMain.ComboOstan, "AZAR BAYJAN_SHARGHI");
+
+  Picked got;
+  open_picker(ws, "MEHRABAD", got);
+  EXPECT_EQ(ws.active_screen(), &d);
+  EXPECT_EQ(d.Combo1.text, "     Select Station");
+  EXPECT_EQ(d.Txtfind.text, "MEHRABAD");
+  EXPECT_EQ(d.Combo1.items.size(), 13u);
+  EXPECT_FALSE(got.called);
+  ws.choose(d.Combo1, " SARAB");
+  EXPECT_TRUE(got.called);
+  EXPECT_EQ(got.text, " SARAB");
+  EXPECT_FALSE(d.loaded);
+  EXPECT_FALSE(d.visible);
+  EXPECT_EQ(ws.active_screen(), &ws.FrmMain);
+
+  // Back on the start screen the bank's province is read again; a second opening
+  // lists afresh, and its window's box returns nothing.
+  EXPECT_EQ(ws.FrmMain.LabOstan.text, "TEHRAN");
+  Picked none;
+  open_picker(ws, "AHAR", none);
+  EXPECT_EQ(d.Combo1.items.size(), 16u);
+  ws.unload(d);
+  EXPECT_TRUE(none.called);
+  EXPECT_EQ(none.text, "");
+  EXPECT_FALSE(d.loaded);
+}
+
+TEST(Catalogue, AProvinceWithNoGroupGivesAnEmptyPicker) {
+  for (const char* province : {"", "NOWHERE"}) {
+    test::Station s;
+    Workstation& ws = s.start();
+    ws.FrmMain.LabOstan.text = province;
+    Picked got;
+    open_picker(ws, "", got);
+    EXPECT_TRUE(ws.FrmSelectStation.Combo1.items.empty()) << province;
+    EXPECT_THROW(ws.choose(ws.FrmSelectStation.Combo1, "TABRIZ AIRPORT"), UsageError);
+  }
+}
+
+}  // namespace
+}  // namespace obsdesk
