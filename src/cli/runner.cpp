@@ -86,7 +86,9 @@ Workstation& Runner::require_started() {
 
 std::string Runner::value_of(std::string_view name) {
   if (name == "clipboard") return clipboard_.text();
-  Workstation& ws = require_started();
+  if (name == "ended") return ws_ && ws_->ended() ? "1" : "0";  // the program has ended itself
+  if (!ws_) require_started();
+  Workstation& ws = *ws_;  // an ended program's boxes can still be read
   if (name == "focus") return ws.focused() ? ws.focused()->full_name() : "";
   if (name == "screen") return ws.active_screen() ? ws.active_screen()->name : "";
   if (name == "SYNOP_coded") return std::to_string(ws.SYNOP_coded);
@@ -198,7 +200,8 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
     }
   } else if (cmd == "messages") {
     need(w, 1, 1, "messages");
-    for (const std::string& m : require_started().take_messages()) out_ << m << "\n";
+    if (!ws_) require_started();
+    for (const std::string& m : ws_->take_messages()) out_ << m << "\n";
   } else {
     throw ScriptError("unknown command " + cmd);
   }

@@ -9,6 +9,7 @@ namespace obsdesk {
 
 // stations
 void wire_catalogue(Workstation& ws);
+void wire_station_settings(Workstation& ws);
 
 // session
 
@@ -30,6 +31,7 @@ void wire_all(Workstation& ws) {
 
   // stations
   wire_catalogue(ws);
+  wire_station_settings(ws);
 
   // session
 

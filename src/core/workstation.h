@@ -32,6 +32,7 @@
 #include "core/frm_main.h"
 #include "core/services.h"
 #include "core/small_screens.h"
+#include "settings/formula_constants.h"
 #include "settings/frm_option.h"
 
 namespace obsdesk {
@@ -106,6 +107,7 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+  FormulaConstants formula;  // numbers of the barometer reduction, set with the station settings
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }

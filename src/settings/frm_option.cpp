@@ -96,6 +96,17 @@ FrmOption::FrmOption() : Screen("FrmOption") {
   limit[7] = {&txtminm7, &txtmin7, &txtmax7, &txtmaxm7};
   limit[8] = {&txtminm8, &txtmin8, &txtmax8, &txtmaxm8};
   limit[9] = {&txtminm9, &txtmin9, &txtmax9, &txtmaxm9};
+  // The constants as the frame shows them.
+  TXTGH.text = "980.665";
+  TXTg45.text = "980.616";
+  TXTG.text = "9.80";
+  TXTR.text = "287.04";
+  TXTe.text = "2.718281828";
+  TXTA.text = "0.0065";
+  txtloge.text = "0.4342944819";
+  txtpi.text = "3.141592654";
+  TXTPN.text = "1013.25";
+  for (Control* c : Controls{&TXTGH, &TXTg45, &TXTG, &TXTR, &TXTe, &TXTA, &txtloge, &txtpi, &TXTPN}) c->locked = true;
   place(Frame2, {&TXTGH, &TXTg45, &TXTG, &TXTR, &TXTe, &TXTA, &txtloge, &txtpi, &TXTPN});
   place(Frame4, {&nnew, &savee, &EDITT, &UPDATE, &firstt, &LASTt, &nextt, &back, &search, &Closee});
   Frame4.visible = false;
@@ -103,9 +114,29 @@ FrmOption::FrmOption() : Screen("FrmOption") {
   for (const auto& f : station_fields()) {
     Control* box = find(f.box);
     if (box == nullptr) throw std::logic_error("no box " + std::string(f.box) + " on FrmOption");
-    box->locked = true;
     Station.bind(*box, std::string(f.column));
   }
+  for (Control* c : entry_boxes()) c->locked = true;
+}
+
+std::vector<Control*> FrmOption::entry_boxes() {
+  std::vector<Control*> boxes;
+  for (const auto& f : station_fields()) boxes.push_back(find(f.box));
+  for (Control* c : Controls{&txtmin3, &txtminm3, &txtmin8, &txtminm8, &txtmin9}) boxes.push_back(c);
+  return boxes;
+}
+
+std::vector<Control*> FrmOption::commands() {
+  return {&nnew, &savee, &EDITT, &UPDATE, &firstt, &LASTt, &nextt, &back, &search, &Closee};
+}
+
+std::vector<Control*> FrmOption::enter_walk() {
+  std::vector<Control*> walk = {&Text1, &NUMCOD, &TXTCOD, &txtq1, &txtq2, &Text3, &Text2, &Txth, &txthmin, &txtci,
+                                &txttabesh};
+  for (int row = 1; row <= 9; ++row)
+    for (TextBox* box : {limit[row].minm, limit[row].min, limit[row].max, limit[row].maxm}) walk.push_back(box);
+  for (Control* c : Controls{&Text5, &Text9, &Text6, &Text10, &Text7, &Text11, &Text8, &Text12}) walk.push_back(c);
+  return walk;
 }
 
 }  // namespace obsdesk

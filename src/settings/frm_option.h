@@ -93,6 +93,19 @@ struct FrmOption : Screen {
   std::array<LimitRow, 10> limit;
 
   DataControl Station{"Station"};
+
+  // The row is being added ("New") or its boxes were opened by "Edit"; either way
+  // the boxes are written back when the row is left.
+  bool adding = false;
+  bool editing = false;
+
+  // The boxes of the profile that "New" and "Edit" open and "Save" locks: every
+  // bound box and every limit box, with or without a column.
+  std::vector<Control*> entry_boxes();
+  // The commands of the menu.
+  std::vector<Control*> commands();
+  // The Enter walk: each box and the box that follows it.
+  std::vector<Control*> enter_walk();
 };
 
 }  // namespace obsdesk

@@ -1,0 +1,219 @@
+#include "settings/station_settings.h"
+
+#include "core/catalogue/select_station.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+namespace {
+
+void lock_boxes(FrmOption& o, bool locked) {
+  for (Control* c : o.entry_boxes()) c->locked = locked;
+}
+
+void enable_commands(FrmOption& o, bool enabled) {
+  for (Control* c : o.commands()) c->enabled = enabled;
+}
+
+// Writes the boxes the observer changed into the row being added or edited. A
+// box that still shows what the row holds is not written, so of the two boxes
+// that share the column txtmaxm5 the one that was changed is kept.
+void write_changed(FrmOption& o) {
+  Recordset& rs = o.Station.rs;
+  std::vector<std::pair<std::string, std::string>> changes;
+  for (const auto& [box, column] : o.Station.bindings())
+    if (box->text != rs.get(column)) changes.emplace_back(column, box->text);
+  if (rs.edit_mode() == Recordset::EditMode::None) rs.edit();
+  for (auto& [column, text] : changes) rs.set(column, std::move(text));
+}
+
+// The row added by "New" or opened by "Edit" goes to the table, as the data
+// control writes a changed row when it is left. A failure of the table is told
+// in a message box and the row stays as it was.
+bool commit(Workstation& ws) {
+  FrmOption& o = ws.FrmOption;
+  if (!o.adding && !o.editing) return true;
+  Recordset& rs = o.Station.rs;
+  try {
+    write_changed(o);
+    rs.update();
+    o.adding = o.editing = false;
+    return true;
+  } catch (const std::exception& e) {
+    rs.cancel_update();
+    o.adding = o.editing = false;
+    ws.message(e.what());
+    o.Station.show(ws);
+    return false;
+  }
+}
+
+// Runs a command with the menu closed; a failure of the table goes to a message box.
+template <typename F>
+void command(Workstation& ws, F&& f) {
+  FrmOption& o = ws.FrmOption;
+  o.Frame4.visible = false;
+  o.Text21.visible = false;
+  try {
+    f(ws, o);
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+  }
+}
+
+void FrmOption_load(Workstation& ws) {
+  FrmOption& o = ws.FrmOption;
+  ws.formula = FormulaConstants{};
+  lock_boxes(o, true);
+  enable_commands(o, true);
+  o.adding = o.editing = false;
+  o.OptPnegar.value = o.txtPnegar.text == "1";
+  o.OptPsang.value = o.txtPsang.text == "1";
+}
+
+void nnew_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    if (!commit(w)) return;
+    o.Station.add_new(w);
+    o.adding = true;
+    lock_boxes(o, false);
+    enable_commands(o, false);
+    o.savee.enabled = true;
+    w.focus(o.Text1);
+  });
+}
+
+void savee_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    commit(w);
+    o.Station.move_last(w);
+    enable_commands(o, true);
+    lock_boxes(o, true);
+  });
+}
+
+void EDITT_click(Workstation& ws) {
+  command(ws, [](Workstation&, FrmOption& o) {
+    if (o.Station.rs.eof() || o.Station.rs.bof()) return;  // no row to open
+    o.editing = true;
+    lock_boxes(o, false);
+  });
+}
+
+// Every empty observer box gets the duty observer, so that the observer list of
+// the entry screen never offers a blank line; the program then ends, and the
+// profile comes into force at the next start.
+void UPDATE_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    w.message(kRestartToApply);
+    for (Control* box : Controls{&o.Text5, &o.Text6, &o.Text7, &o.Text8, &o.Text9, &o.Text10, &o.Text11, &o.Text12})
+      if (box->text.empty()) w.set(*box, kDutyObserver);
+    if (!o.adding) o.editing = !(o.Station.rs.eof() || o.Station.rs.bof());
+    if (!commit(w)) return;
+    lock_boxes(o, true);
+    w.end_program();
+  });
+}
+
+void firstt_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    commit(w);
+    o.Station.move_first(w);
+  });
+}
+
+void LASTt_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    commit(w);
+    o.Station.move_last(w);
+  });
+}
+
+// One row on or back; past the end the place kept before the move comes back.
+void step(Workstation& ws, bool forward) {
+  command(ws, [forward](Workstation& w, FrmOption& o) {
+    commit(w);
+    Recordset& rs = o.Station.rs;
+    const bool standing = !rs.eof() && !rs.bof();
+    const std::int64_t kept = standing ? rs.bookmark() : 0;
+    if (standing) {
+      if (forward) rs.move_next();
+      else rs.move_previous();
+    }
+    if (!standing || rs.eof() || rs.bof()) {
+      w.message("No Record Found", "Message");
+      if (standing) rs.go_to(kept);
+    }
+    o.Station.show(w);
+  });
+}
+
+// The name chosen in the station picker is looked for anywhere in Sname; with
+// no row found the place stays as it was.
+void search_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption&) {
+    commit(w);
+    select_station(w, "", [](Workstation& w2, const std::string& name) {
+      if (name.empty()) return;
+      try {
+        Recordset& rs = w2.FrmOption.Station.rs;
+        const std::string pattern = "*" + name + "*";
+        if (rs.find_first("Sname", pattern) || rs.find_next("Sname", pattern)) w2.FrmOption.Station.show(w2);
+      } catch (const std::exception& e) {
+        w2.message(e.what());
+      }
+    });
+  });
+}
+
+// The screen closes (it stays loaded: every rule reads the profile from it) and
+// the start screen, active again, reads the station number anew.
+void Closee_click(Workstation& ws) {
+  command(ws, [](Workstation& w, FrmOption& o) {
+    commit(w);
+    lock_boxes(o, true);
+    if (w.FrmMain.ID.rs.is_open()) w.FrmMain.ID.refresh(w);
+    w.hide(o);
+  });
+}
+
+}  // namespace
+
+void wire_station_settings(Workstation& ws) {
+  FrmOption& o = ws.FrmOption;
+  o.on(ScreenEvent::Load, FrmOption_load);
+  o.Label45.on(Event::Click, [](Workstation& w) { w.FrmOption.Frame4.visible = !w.FrmOption.Frame4.visible; });
+  o.nnew.on(Event::Click, nnew_click);
+  o.savee.on(Event::Click, savee_click);
+  o.EDITT.on(Event::Click, EDITT_click);
+  o.UPDATE.on(Event::Click, UPDATE_click);
+  o.firstt.on(Event::Click, firstt_click);
+  o.LASTt.on(Event::Click, LASTt_click);
+  o.nextt.on(Event::Click, [](Workstation& w) { step(w, true); });
+  o.back.on(Event::Click, [](Workstation& w) { step(w, false); });
+  o.search.on(Event::Click, search_click);
+  o.Closee.on(Event::Click, Closee_click);
+
+  // The row number shows on a double click on the radiation factor.
+  o.txttabesh.on(Event::DblClick, [](Workstation& w) { w.FrmOption.Text21.visible = true; });
+
+  // The barometer pair: one option writes "1" to its box and "0" to the other.
+  o.OptPnegar.on(Event::Click, [](Workstation& w) {
+    w.set(w.FrmOption.txtPnegar, "1");
+    w.set(w.FrmOption.txtPsang, "0");
+  });
+  o.OptPsang.on(Event::Click, [](Workstation& w) {
+    w.set(w.FrmOption.txtPsang, "1");
+    w.set(w.FrmOption.txtPnegar, "0");
+  });
+  o.txtPnegar.on(Event::Change, [](Workstation& w) { w.FrmOption.OptPnegar.value = w.FrmOption.txtPnegar.text == "1"; });
+  o.txtPsang.on(Event::Change, [](Workstation& w) { w.FrmOption.OptPsang.value = w.FrmOption.txtPsang.text == "1"; });
+
+  const std::vector<Control*> walk = o.enter_walk();
+  for (std::size_t i = 0; i + 1 < walk.size(); ++i) {
+    Control* next = walk[i + 1];
+    walk[i]->on(Event::KeyEnter, [next](Workstation& w) { w.focus(*next); });
+  }
+}
+
+}  // namespace obsdesk
