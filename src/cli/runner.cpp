@@ -87,8 +87,7 @@ Workstation& Runner::require_started() {
 std::string Runner::value_of(std::string_view name) {
   if (name == "clipboard") return clipboard_.text();
   if (name == "ended") return ws_ && ws_->ended() ? "1" : "0";  // the program has ended itself
-  if (!ws_) require_started();
-  Workstation& ws = *ws_;  // an ended program's boxes can still be read
+  Workstation& ws = require_started();
   if (name == "focus") return ws.focused() ? ws.focused()->full_name() : "";
   if (name == "screen") return ws.active_screen() ? ws.active_screen()->name : "";
   if (name == "SYNOP_coded") return std::to_string(ws.SYNOP_coded);
