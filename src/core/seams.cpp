@@ -24,12 +24,4 @@ void open_ground_picker(Workstation&) {}
 
 void open_tendency_dialog(Workstation&) {}
 
-void open_past_hours_editor(Workstation&) {}
-
-void open_copy_out(Workstation&) {}
-
-void open_find_dialog(Workstation& ws, std::function<void(Workstation&, const std::string&)> on_text) {
-  on_text(ws, "");
-}
-
 }  // namespace obsdesk

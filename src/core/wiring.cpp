@@ -10,6 +10,9 @@ namespace obsdesk {
 // stations
 void wire_catalogue(Workstation& ws);
 void wire_station_settings(Workstation& ws);
+void wire_search(Workstation& ws);
+void wire_copy_out(Workstation& ws);
+void wire_past_hours(Workstation& ws);
 
 // session
 
@@ -32,6 +35,9 @@ void wire_all(Workstation& ws) {
   // stations
   wire_catalogue(ws);
   wire_station_settings(ws);
+  wire_search(ws);
+  wire_copy_out(ws);
+  wire_past_hours(ws);
 
   // session
 

@@ -45,6 +45,9 @@ void Workstation::register_screens() {
 
   // stations
   screens_.push_back(&FrmSelectStation);
+  screens_.push_back(&FrmFind);
+  screens_.push_back(&FrmPol);
+  screens_.push_back(&FrmWP);
 
   // session
 

@@ -23,7 +23,10 @@
 #include <string_view>
 #include <vector>
 
+#include "archive/copy_out.h"
 #include "archive/frm_display_kashf.h"
+#include "archive/past_hours.h"
+#include "archive/search.h"
 #include "calendar/calendar.h"
 #include "coders/frm_code.h"
 #include "core/control.h"
@@ -74,6 +77,9 @@ class Workstation {
 
   // Screens of the stations topic.
   obsdesk::FrmSelectStation FrmSelectStation;
+  obsdesk::FrmFind FrmFind;
+  obsdesk::FrmPol FrmPol;
+  obsdesk::FrmWP FrmWP;
 
   // Screens of the session and its entry rules.
 

@@ -1,0 +1,88 @@
+#include "archive/copy_out.h"
+
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include "bank/bank.h"
+#include "core/record.h"
+#include "core/seams.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+FrmPol::FrmPol() : Screen("FrmPol") {
+  caption = "Copy";
+  Text.visible = false;
+}
+
+namespace {
+
+// The whole of a bulletin file of the program's folder, as text. A missing file
+// fails with the runtime's words.
+std::string read_bulletin(Workstation& ws, const char* name) {
+  const std::string prog = trim(ws.FrmMain.LabName.text);
+  const auto path = resolve_bank_path(ws.bank_root(), prog + "\\" + name);
+  std::ifstream in(path, std::ios::binary);
+  if (!in) throw std::runtime_error("File not found");
+  const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  return from_cp1256(bytes);
+}
+
+// Each copy has its own trap: a failure is told in a message box and the
+// clipboard keeps what it had.
+void copy_one(Workstation& ws, const char* name) {
+  try {
+    ws.set(ws.FrmPol.Text, read_bulletin(ws, name));
+    ws.clipboard().clear();
+    ws.clipboard().set_text(ws.FrmPol.Text.text);
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+  }
+}
+
+// The METAR bulletin, then the SYNOP one added behind it.
+void Command5_click(Workstation& ws) {
+  try {
+    ws.set(ws.FrmPol.Text, read_bulletin(ws, "METAR.DAT"));
+    ws.clipboard().clear();
+    ws.clipboard().set_text(ws.FrmPol.Text.text);
+    ws.set(ws.FrmPol.Text, ws.FrmPol.Text.text + read_bulletin(ws, "SYNOP.DAT"));
+    ws.clipboard().clear();
+    ws.clipboard().set_text(ws.FrmPol.Text.text);
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+  }
+}
+
+void Command1_click(Workstation& ws) {
+  ws.hide(ws.FrmPol);
+  ws.show(ws.FrmDisplayKashf);
+  ws.clipboard().clear();
+  ws.unload(ws.FrmPol);
+}
+
+}  // namespace
+
+// Opens with an empty clipboard and the buttons of the report kind just saved.
+void open_copy_out(Workstation& ws) {
+  FrmPol& p = ws.FrmPol;
+  const std::string& kind = ws.FrmDisplayKashf.TXTSEL.text;
+  ws.clipboard().clear();
+  p.Command2.enabled = kind == kMetar || kind == kMetar30 || kind == kSynMet;
+  p.Command3.enabled = kind == kSynop || kind == kSynMet;
+  p.Command4.enabled = kind == kSpeci;
+  ws.show(p);
+}
+
+void wire_copy_out(Workstation& ws) {
+  FrmPol& p = ws.FrmPol;
+  p.Command1.on(Event::Click, Command1_click);
+  p.Command2.on(Event::Click, [](Workstation& w) { copy_one(w, "METAR.DAT"); });
+  p.Command3.on(Event::Click, [](Workstation& w) { copy_one(w, "SYNOP.DAT"); });
+  p.Command4.on(Event::Click, [](Workstation& w) { copy_one(w, "SPECI.DAT"); });
+  p.Command5.on(Event::Click, Command5_click);
+}
+
+}  // namespace obsdesk

@@ -1,0 +1,157 @@
+// The search dialog: today's date in both calendars, each calendar filling the
+// other, the search text, and the reports it finds.
+#include "archive/search.h"
+
+#include <gtest/gtest.h>
+
+#include "bank/bank.h"
+#include "bank/sqlite.h"
+#include "core/seams.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+using test::Station;
+
+struct Returned {
+  bool called = false;
+  std::string text;
+};
+
+void open_find(Workstation& ws, Returned& out) {
+  open_find_dialog(ws, [&out](Workstation&, const std::string& t) {
+    out.called = true;
+    out.text = t;
+  });
+}
+
+std::vector<std::string> boxes(FrmFind& f) {
+  return {f.TXTYEARmi.text, f.ComMI.text, f.TXTDAYmi.text, f.TXTYEARsh.text, f.ComSH.text,
+          f.TXTDAYsh.text,  f.TXTDAYWEEK.text, f.Txtfind.text};
+}
+
+TEST(Search, OpensOnTodayInBothCalendars) {
+  Station s({2024, 3, 20, 5, 40, 0});
+  Workstation& ws = s.start();
+  Returned r;
+  open_find(ws, r);
+  FrmFind& f = ws.FrmFind;
+  EXPECT_EQ(ws.active_screen(), &f);
+  EXPECT_EQ(boxes(f), (std::vector<std::string>{"2024", "MAR", "20", "1403", "فروردين", "01", "Wednesday", "240320"}));
+  EXPECT_EQ(f.DTPicker1.text, "2024-03-20");
+  EXPECT_FALSE(r.called);
+}
+
+TEST(Search, EachDatePartFillsTheOtherCalendarAndTheSearchText) {
+  struct Step {
+    const char* box;
+    const char* text;
+    std::vector<std::string> after;  // Gregorian, Persian, weekday, search text
+    bool whole = false;              // set in one change, not typed key by key
+  };
+  const Step steps[] = {
+      {"TXTDAYmi", "5", {"2024", "MAR", "5", "1402", "اسفند", "15", "Tuesday", "240305"}},
+      {"txttime", "6", {"2024", "MAR", "5", "1402", "اسفند", "15", "Tuesday", "24030506"}},
+      {"ComMI", "DEC", {"2024", "DEC", "5", "1403", "آذر", "15", "Thursday", "24120506"}},
+      {"TXTYEARmi", "2023", {"2023", "DEC", "5", "1402", "آذر", "15", "Tuesday", "23120506"}},
+      {"txttime", "", {"2023", "DEC", "5", "1402", "آذر", "15", "Tuesday", "231205"}},
+      // The Persian side: 10 Azar comes back as the 31st of November, kept so.
+      {"TXTDAYsh", "10", {"2023", "NOV", "31", "1402", "آذر", "10", "", "231131"}},
+      {"ComSH", "دي", {"2023", "DEC", "31", "1402", "دي", "10", "Sunday", "231231"}},
+      {"TXTDAYsh", "11", {"2024", "JAN", "01", "1402", "دي", "11", "Monday", "240101"}},
+      {"TXTYEARsh", "1369", {"1991", "JAN", "01", "1369", "دي", "11", "Tuesday", "910101"}},
+      {"DTPicker1", "2025-01-01", {"2025", "JAN", "01", "1403", "دي", "12", "Wednesday", "250101"}},
+      // Text that is no date leaves the boxes as they are.
+      {"TXTYEARmi", "20x5", {"20x5", "JAN", "01", "1403", "دي", "12", "Wednesday", "250101"}, true},
+      {"TXTDAYsh", "", {"20x5", "JAN", "01", "1403", "دي", "", "Wednesday", "250101"}, true},
+      {"DTPicker1", "soon", {"20x5", "JAN", "01", "1403", "دي", "", "Wednesday", "250101"}, true},
+      {"TXTDAYmi", "40", {"20x5", "JAN", "40", "1403", "دي", "", "Wednesday", "250101"}, true},
+  };
+  Station s({2024, 3, 20, 5, 40, 0});
+  Workstation& ws = s.start();
+  Returned r;
+  open_find(ws, r);
+  FrmFind& f = ws.FrmFind;
+  for (const Step& st : steps) {
+    Control& c = s.at(std::string("FrmFind.") + st.box);
+    if (st.whole) ws.set_text(c, st.text);
+    else if (c.kind == Kind::ComboBox) ws.choose(c, st.text);
+    else ws.type(c, st.text);
+    EXPECT_EQ(boxes(f), st.after) << st.box << " " << st.text;
+  }
+}
+
+TEST(Search, FindReturnsTheTextAndAnyOtherCloseReturnsNothing) {
+  Station s({2024, 3, 20, 5, 40, 0});
+  Workstation& ws = s.start();
+  Returned found;
+  open_find(ws, found);
+  ws.type(ws.FrmFind.txttime, "12");
+  ws.click(ws.FrmFind.CmdFind);
+  EXPECT_TRUE(found.called);
+  EXPECT_EQ(found.text, "24032012");
+  EXPECT_FALSE(ws.FrmFind.visible);
+  EXPECT_EQ(ws.active_screen(), &ws.FrmMain);
+
+  // It keeps the date last asked for; a typed search text is taken as it stands.
+  Returned typed;
+  open_find(ws, typed);
+  EXPECT_EQ(ws.FrmFind.Txtfind.text, "24032012");
+  ws.type(ws.FrmFind.Txtfind, "0501");
+  ws.click(ws.FrmFind.CmdFind);
+  EXPECT_EQ(typed.text, "0501");
+
+  Returned closed;
+  open_find(ws, closed);
+  ws.unload(ws.FrmFind);
+  EXPECT_TRUE(closed.called);
+  EXPECT_EQ(closed.text, "");
+  EXPECT_FALSE(ws.FrmFind.loaded);
+}
+
+// The browser looks for the text anywhere in the key of a report.
+TEST(Search, FindsSavedReportsByEitherCalendar) {
+  Station s({2025, 6, 1, 8, 0, 0});
+  Workstation& ws = s.start();
+  const auto kashf = resolve_bank_path(s.root(), ws.FrmMain.txtpathnamebank1.text);
+  {
+    Database db(kashf, Database::Mode::ReadWrite);
+    for (const char* key : {"2212310000", "2303210600", "2303211200", "2403200300", "2501011800"})
+      db.prepare("INSERT INTO KASHF (yymmddttgg) VALUES (?)").bind(1, std::string(key)).run();
+  }
+  struct Case {
+    std::vector<std::pair<const char*, const char*>> input;
+    const char* text;
+    const char* found;  // "" for a miss
+  };
+  const Case cases[] = {
+      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "21"}}, "230321", "2303210600"},
+      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "21"}, {"txttime", "12"}}, "23032112", "2303211200"},
+      {{{"TXTYEARsh", "1402"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}}, "230321", "2303210600"},
+      {{{"TXTYEARsh", "1402"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}, {"txttime", "12"}}, "23032112", "2303211200"},
+      {{{"TXTYEARsh", "1403"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}, {"txttime", "3"}}, "24032003", "2403200300"},
+      {{{"TXTYEARsh", "1403"}, {"ComSH", "دي"}, {"TXTDAYsh", "12"}}, "250101", "2501011800"},
+      {{{"TXTYEARsh", "1401"}, {"ComSH", "دي"}, {"TXTDAYsh", "10"}}, "221231", "2212310000"},
+      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "22"}}, "230322", ""},
+  };
+  for (const Case& c : cases) {
+    Returned r;
+    open_find(ws, r);
+    for (const auto& [box, text] : c.input) {
+      Control& b = s.at(std::string("FrmFind.") + box);
+      if (b.kind == Kind::ComboBox) ws.choose(b, text);
+      else ws.type(b, text);
+    }
+    ws.click(ws.FrmFind.CmdFind);
+    ASSERT_EQ(r.text, c.text);
+    Recordset rs;
+    rs.open(kashf, "KASHF");
+    const bool hit = rs.find_first("yymmddttgg", "*" + r.text + "*");
+    EXPECT_EQ(hit ? rs.get("yymmddttgg") : "", c.found) << c.text;
+    ws.unload(ws.FrmFind);
+  }
+}
+
+}  // namespace
+}  // namespace obsdesk
