@@ -103,7 +103,8 @@ void FrmFind_load(Workstation& ws) {
   f.found = false;
   f.updating = true;
   ws.set(f.TXTYEARmi, std::to_string(now.year));
-  ws.set(f.ComMI, std::string(gregorian_month_names_upper()[static_cast<std::size_t>(now.month - 1)]));
+  if (now.month >= 1 && now.month <= 12)
+    ws.set(f.ComMI, std::string(gregorian_month_names_upper()[static_cast<std::size_t>(now.month - 1)]));
   ws.set(f.TXTDAYmi, lead_zero(std::to_string(now.day)));
   ws.set(f.DTPicker1, std::to_string(now.year) + "-" + lead_zero(std::to_string(now.month)) + "-" +
                           lead_zero(std::to_string(now.day)));

@@ -308,19 +308,12 @@ TEST(Calendar, MonthOfADateBox) {
   for (const auto& [text, month] : table) EXPECT_EQ(month_of_text(text), month) << text;
 }
 
-TEST(Calendar, NamesOfTheMonthsAndWeekdays) {
-  EXPECT_EQ(gregorian_month_names()[0], "Jan");
-  EXPECT_EQ(gregorian_month_names_upper()[11], "DEC");
-  EXPECT_EQ(shamsi_month_names()[0], "فروردين");
-  EXPECT_EQ(shamsi_month_names()[11], "اسفند");
+TEST(Calendar, WeekdaysOfRealDatesOnly) {
   const std::tuple<int, int, int, std::string_view> days[] = {
       {2024, 3, 20, "Wednesday"}, {2000, 1, 1, "Saturday"}, {2024, 2, 29, "Thursday"},
       {2023, 2, 29, ""}, {2100, 2, 29, ""}, {2000, 2, 29, "Tuesday"}, {2023, 11, 31, ""},
       {2023, 12, 31, "Sunday"}, {2023, 0, 1, ""}, {2023, 1, 0, ""}};
   for (const auto& [y, m, d, name] : days) EXPECT_EQ(weekday_name(y, m, d), name) << y << m << d;
-  EXPECT_EQ(lead_zero("5"), "05");
-  EXPECT_EQ(lead_zero("15"), "15");
-  EXPECT_EQ(lead_zero(""), "");
 }
 
 }  // namespace
