@@ -10,6 +10,7 @@ namespace obsdesk {
 // stations
 
 // session
+void wire_session(Workstation& ws);
 
 // barometer and psychrometry
 
@@ -30,6 +31,7 @@ void wire_all(Workstation& ws) {
   // stations
 
   // session
+  wire_session(ws);
 
   // barometer and psychrometry
 
