@@ -1,5 +1,6 @@
 #include "core/session.h"
 
+#include "checks/entry_checks.h"
 #include "core/key_text.h"
 #include "core/program.h"
 #include "core/record.h"
@@ -283,6 +284,8 @@ void wire_session(Workstation& ws) {
     if (w.SPECI_coded != 0) fill_observers(w);
   });
   wire_session_walk(ws);
+  wire_wind(ws);
+  wire_visibility(ws);
 }
 
 }  // namespace obsdesk
