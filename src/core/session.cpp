@@ -286,6 +286,7 @@ void wire_session(Workstation& ws) {
   wire_session_walk(ws);
   wire_wind(ws);
   wire_visibility(ws);
+  wire_cloud(ws);
 }
 
 }  // namespace obsdesk
