@@ -68,27 +68,6 @@ TEST(Cloud, TotalCloudShapesTheLayers) {
   }
 }
 
-TEST(Cloud, TotalCloudWalks) {
-  struct Case {
-    const char* typed;
-    const char* next;
-  };
-  const Case cases[] = {{"9", "Text12"}, {"4", "Text27"}, {"", "Text5"}};
-  for (const Case& c : cases) {
-    test::Station s;
-    Workstation& ws = at_cloud(s);
-    ws.type(ws.FrmKashf.Text5, c.typed);
-    ws.press_enter();
-    EXPECT_EQ(ws.focused()->name, c.next) << c.typed;
-  }
-  test::Station s;
-  Workstation& ws = at_cloud(s);
-  ws.FrmKashf.Text4.text = "";
-  ws.focus_now(ws.FrmKashf.Text5);
-  EXPECT_EQ(ws.focused(), &ws.FrmKashf.Text4);
-  EXPECT_EQ(last(ws), "FrmERR: مــقدار ديد افقي را وارد نمـائيـــد");
-}
-
 TEST(Cloud, AmountsAgainstTheTotal) {
   struct Case {
     const char* total;
@@ -118,16 +97,6 @@ TEST(Cloud, AmountsAgainstTheTotal) {
     EXPECT_EQ((k.*c.box).text, c.kept) << c.total << "/" << c.typed;
     EXPECT_EQ(last(ws), c.refusal) << c.total << "/" << c.typed;
   }
-}
-
-TEST(Cloud, SummaryNineForcesTheLowestHeight) {
-  test::Station s;
-  Workstation& ws = at_cloud(s);
-  FrmKashf& k = ws.FrmKashf;
-  ws.type(k.Text5, "5");
-  ws.type(k.Text49, "9");
-  EXPECT_EQ(k.Combo4.text, "x");
-  EXPECT_EQ(k.txtmin.text, "x");
 }
 
 TEST(Cloud, HeightRangesByLayer) {
@@ -222,27 +191,6 @@ TEST(Cloud, OvercastForcesTheLayersAbove) {
   EXPECT_EQ(w2.focused(), &k2.Text74);
 }
 
-TEST(Cloud, TypesFromTheirFigures) {
-  struct Case {
-    ComboBox FrmKashf::*list;
-    const char* typed;
-    const char* item;
-  };
-  const Case cases[] = {
-      {&FrmKashf::Combo1, "3", "CB     3"}, {&FrmKashf::Combo2, "6", "ST,FS  6"}, {&FrmKashf::Combo3, "0", "       0"},
-      {&FrmKashf::Combo1, "x", "       X"}, {&FrmKashf::Combo6, "7", "AC,AS  7"}, {&FrmKashf::Combo6, "2", "AS     2"},
-      {&FrmKashf::Combo9, "9", "CC,CS  9"}, {&FrmKashf::Combo9, "X", "       X"}, {&FrmKashf::Combo1, "CB", "CB"},
-  };
-  for (const Case& c : cases) {
-    test::Station s;
-    Workstation& ws = at_cloud(s);
-    FrmKashf& k = ws.FrmKashf;
-    ws.type(k.Text5, "6");
-    ws.type(k.*c.list, c.typed);
-    EXPECT_EQ((k.*c.list).text, c.item) << c.typed;
-  }
-}
-
 TEST(Cloud, TheSameLowTypeTwiceIsRefused) {
   test::Station s;
   Workstation& ws = at_cloud(s);
@@ -308,15 +256,6 @@ TEST(Cloud, LeavingTheTotalBringsTheTemperatureOfTwelveHoursBefore) {
   ws.type(ws.FrmKashf.Text5, "3");
   ws.press_enter();
   EXPECT_EQ(ws.FrmKashf.txtt12.text, "12.5");
-}
-
-TEST(Cloud, LayerListOfTheMetar) {
-  test::Station s;
-  Workstation& ws = at_cloud(s, kMetar);
-  ws.choose(ws.FrmKashf.Cmb_NLC, "3LC");
-  EXPECT_EQ(ws.FrmKashf.Txt_NLC.text, "3LC");
-  ws.choose(ws.FrmKashf.Cmb_NLC, "None");
-  EXPECT_EQ(ws.FrmKashf.Txt_NLC.text, "");
 }
 
 }  // namespace

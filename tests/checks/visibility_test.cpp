@@ -64,13 +64,6 @@ TEST(Visibility, TypedTextToMetres) {
   }
 }
 
-TEST(Visibility, CutToTheLowerMultipleOf5000From30000) {
-  const std::pair<double, double> cases[] = {{29999, 29999}, {30000, 30000}, {30001, 30000}, {34999, 30000},
-                                             {35000, 35000}, {67500, 65000}, {69999, 65000}, {70000, 70000},
-                                             {72000, 72000}};
-  for (auto [in, out] : cases) EXPECT_EQ(cut_to_5000(in), out) << in;
-}
-
 TEST(Visibility, CharactersAndTheWindFirst) {
   test::Station s;
   Workstation& ws = at_visibility(s);
@@ -110,35 +103,6 @@ TEST(Visibility, MinimumAndMaximumBorrowTheirWords) {
   }
 }
 
-TEST(Visibility, TheExtremesWalkWithTheirDirections) {
-  test::Station s;
-  Workstation& ws = at_visibility(s);
-  FrmKashf& k = ws.FrmKashf;
-  ws.type(k.Text4, "5");
-  ws.press_enter();
-  ASSERT_EQ(ws.focused(), &k.TxtVM);
-  ws.type(k.TxtVM, "800");
-  ws.press_enter();
-  EXPECT_EQ(k.TxtVM.back_color, kOrange);
-  EXPECT_EQ(ws.focused(), &k.CMbMAX);
-  ws.type(k.CMbMAX, "es");
-  ws.press_enter();
-  EXPECT_EQ(k.CMbMAX.text, "SE");
-  EXPECT_EQ(ws.focused(), &k.Text26);
-  ws.type(k.Text26, "600");  // not above the minimum
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text26);
-  EXPECT_EQ(ws.take_messages().back(), "FrmERR: مــقدار ديد حداكثر را چك نمائيد");
-  EXPECT_EQ(k.Text26.text, "");
-  ws.type(k.Text26, "9");
-  ws.press_enter();
-  EXPECT_EQ(k.Text26.text, "9000");
-  EXPECT_EQ(ws.focused(), &k.CMbMIN);
-  ws.choose(k.CMbMIN, "NW");
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text5);
-}
-
 TEST(Visibility, DirectionListsNormalise) {
   struct Case {
     const char* typed;
@@ -170,15 +134,6 @@ TEST(Visibility, AnExtremeNeedsItsDirectionAndTheVisibility) {
   ws.type(k.CMbMAX, "N");
   EXPECT_EQ(k.CMbMAX.text, "");
   EXPECT_EQ(ws.focused(), &k.Text4);
-}
-
-TEST(Visibility, SynopSkipsTheExtremes) {
-  test::Station s;
-  Workstation& ws = at_visibility(s, kSynop);
-  FrmKashf& k = ws.FrmKashf;
-  ws.type(k.Text4, "8");
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text5);
 }
 
 }  // namespace

@@ -75,29 +75,6 @@ TEST(Wind, DirectionOnLeaving) {
   }
 }
 
-TEST(Wind, LimitsOfAVariableDirectionAndTheWalk) {
-  test::Station s;
-  Workstation& ws = at_wind(s);
-  FrmKashf& k = ws.FrmKashf;
-  ws.type(k.Text2, "v");
-  ws.focus_now(k.Text2);
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text40);
-  ws.type(k.Text40, "0");  // no shortcut for "0" in the limits
-  EXPECT_EQ(k.Text40.text, "0");
-  ws.type(k.Text40, "c");
-  EXPECT_EQ(k.Text40.text, "CALM");
-  ws.type(k.Text40, "200");
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text39);
-  EXPECT_EQ(k.Text40.back_color, kOrange);
-  ws.type(k.Text39, "365");
-  EXPECT_EQ(k.Text39.text, "");
-  ws.type(k.Text39, "300");
-  ws.press_enter();
-  EXPECT_EQ(ws.focused(), &k.Text3);
-}
-
 TEST(Wind, SpeedAgainstTheDirectionAndTheLimits) {
   struct Case {
     const char* dd;
