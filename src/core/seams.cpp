@@ -6,12 +6,6 @@ namespace obsdesk {
 
 // Each stub stands until its topic is built; the topic then removes it here and
 // defines the function beside its own rules.
-void apply_hour_rules(Workstation&) {}
-
-void fill_today(Workstation&) {}
-bool cloud_height_ok(Workstation&, Control&) { return true; }
-
-void rainfall_rule(Workstation&) {}
 int present_weather_code(Workstation&) { return -1; }
 
 void open_irix_picker(Workstation&, bool) {}

@@ -15,6 +15,7 @@ void wire_copy_out(Workstation& ws);
 void wire_past_hours(Workstation& ws);
 
 // session
+void wire_session(Workstation& ws);
 
 // barometer and psychrometry
 
@@ -40,6 +41,7 @@ void wire_all(Workstation& ws) {
   wire_past_hours(ws);
 
   // session
+  wire_session(ws);
 
   // barometer and psychrometry
 

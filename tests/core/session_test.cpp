@@ -1,0 +1,190 @@
+// One life of the entry screen: its opening, the hour box and the groups of the
+// hour, the Enter walk, the remarks step, the re-edit and the observer's name.
+#include "core/session.h"
+
+#include <gtest/gtest.h>
+
+#include "core/record.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+// The entry screen with a report kind chosen, iR iX filled for the SYNOP kinds.
+Workstation& entry(test::Station& s, std::string_view kind = kMetar) {
+  Workstation& ws = s.open_entry();
+  ws.FrmKashf.Text48.text = "12";
+  if (ws.FrmKashf.Combo5.text != kind) ws.choose(ws.FrmKashf.Combo5, kind);
+  return ws;
+}
+
+TEST(Session, OpeningPrimesTheForm) {
+  test::Station s({2024, 3, 20, 5, 40, 0});
+  Workstation& ws = s.open_entry();
+  FrmKashf& k = ws.FrmKashf;
+  EXPECT_EQ(k.Combo5.text, kMetar);
+  EXPECT_EQ(k.Txttond.text, "     ");
+  EXPECT_EQ(k.Text49.text + k.txtmin.text + k.Text16.text, "000");
+  EXPECT_EQ(k.Combo3.text, kNoCloud);  // though its list has no such item
+  EXPECT_FALSE(k.Frameh5.visible);     // the demo station reads the barometer
+  EXPECT_EQ(k.TXTYEARsh.text + k.TXTMONTHSH.text + k.TXTDAYsh.text, "14030101");
+  EXPECT_EQ(k.TXTYYMMDDTT.text, "240320");
+}
+
+TEST(Session, TodaysPersianDateIsClearedOnTheTwentyNinthOfFebruary) {
+  test::Station s({2024, 2, 29, 10, 0, 0});
+  Workstation& ws = s.open_entry();
+  EXPECT_EQ(ws.FrmKashf.TXTDAYmi.text, "29");
+  EXPECT_EQ(ws.FrmKashf.TXTYEARsh.text + ws.FrmKashf.TXTMONTHSH.text + ws.FrmKashf.TXTDAYsh.text, "");
+}
+
+TEST(Session, HourBoxTakesOneOrTwoDigitsUpTo23) {
+  struct Case {
+    const char* typed;
+    const char* kept;
+    bool refused;
+  };
+  const Case cases[] = {{"03", "03", false}, {"3", "3", false},  {"23", "23", false}, {"24", "00", false},
+                        {"25", "", true},    {"a", "", true},    {"2a", "", true},    {"99", "", true}};
+  for (const Case& c : cases) {
+    test::Station s;
+    Workstation& ws = entry(s);
+    ws.take_messages();
+    ws.type(ws.FrmKashf.Text1, c.typed);
+    EXPECT_EQ(ws.FrmKashf.Text1.text, c.kept) << c.typed;
+    EXPECT_EQ(ws.focused(), &ws.FrmKashf.Text1) << c.typed;
+    const auto m = ws.take_messages();
+    EXPECT_EQ(!m.empty() && m.back() == "FrmERR:      زمان را چــك نمـائيـــد", c.refused) << c.typed;
+  }
+}
+
+TEST(Session, GroupsShownByHour) {
+  struct Case {
+    const char* hour;
+    bool extremes, soil, pan, radiation, night_wind, total, six_six, past6, rain;
+    const char* period;
+    const char* nine_group;
+  };
+  const Case cases[] = {
+      {"00", 0, 0, 0, 0, 0, 1, 0, 1, 1, "21-00", "92350"}, {"03", 1, 1, 0, 0, 0, 0, 0, 0, 1, "00-03", "90250"},
+      {"3", 1, 1, 0, 0, 0, 0, 0, 0, 1, "00-03", "90250"},  {"06", 0, 0, 1, 0, 0, 0, 1, 1, 1, "03-06", "90550"},
+      {"09", 0, 1, 0, 0, 0, 0, 0, 0, 1, "06-09", "90850"}, {"12", 0, 0, 0, 0, 0, 0, 0, 1, 1, "09-12", "91150"},
+      {"15", 1, 1, 0, 0, 0, 0, 0, 0, 1, "12-15", "91450"}, {"18", 0, 0, 0, 1, 0, 0, 0, 1, 1, "15-18", "91750"},
+      {"21", 0, 0, 0, 0, 1, 0, 0, 0, 1, "18-21", "92050"}, {"13", 0, 0, 0, 0, 0, 0, 0, 0, 0, "", "91250"},
+  };
+  for (const Case& c : cases) {
+    test::Station s;
+    Workstation& ws = entry(s, kSynop);
+    FrmKashf& k = ws.FrmKashf;
+    ws.type(k.Text1, c.hour);
+    EXPECT_EQ(k.Frame15.visible, c.extremes) << c.hour;
+    EXPECT_EQ(k.Frame5.visible, c.soil) << c.hour;
+    EXPECT_EQ(ws.FrmCode.Frame12.visible, c.soil) << c.hour;
+    EXPECT_EQ(k.Frame8.visible, c.pan) << c.hour;
+    EXPECT_EQ(k.Frame9.visible, c.pan) << c.hour;
+    EXPECT_EQ(k.Frame10.visible, c.radiation) << c.hour;
+    EXPECT_EQ(k.Txttimesun.visible, c.radiation) << c.hour;
+    EXPECT_EQ(k.Txttond.visible, c.night_wind) << c.hour;
+    EXPECT_EQ(k.Txtmaxwind.visible, c.night_wind) << c.hour;
+    EXPECT_EQ(k.Text51.visible, c.total) << c.hour;
+    EXPECT_EQ(k.Text53.visible, c.six_six) << c.hour;
+    EXPECT_EQ(k.txtpast6.visible, c.past6) << c.hour;
+    EXPECT_EQ(k.Frame6.visible, c.rain) << c.hour;
+    if (c.rain) {
+      EXPECT_EQ(k.Labrain.text, c.period) << c.hour;
+    }
+    EXPECT_FALSE(k.FraTmaxS.visible) << c.hour;
+    EXPECT_EQ(ws.FrmCode.Text87.text, c.nine_group) << c.hour;
+  }
+}
+
+TEST(Session, EnteringTheHourNeedsAKindAndIrix) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  FrmKashf& k = ws.FrmKashf;
+  ws.choose(k.Combo5, kSynop);
+  ws.take_messages();
+  ws.focus_now(k.Text1);
+  EXPECT_EQ(ws.focused(), &k.Combo5);
+  EXPECT_EQ(ws.take_messages().back(), "FrmERR: را وارد نمـائيـــد  IRIX   ");
+  ws.type(k.Combo5, "x");  // wiped: no kind
+  ws.take_messages();
+  ws.focus_now(k.Text1);
+  EXPECT_EQ(ws.focused(), &k.Combo5);
+  EXPECT_EQ(ws.take_messages().back(), "FrmERR: نــوع گــزارش را انـتـخـاب نـماييد");
+}
+
+TEST(Session, TwelveHourStationAtNightReadsOnlyTheDryBulb) {
+  for (const char* hour : {"18", "21", "00", "24"}) {
+    test::Station s;
+    Workstation& ws = entry(s, kSynMet);
+    FrmKashf& k = ws.FrmKashf;
+    ws.FrmOption.Combo1.text = std::string(kStation12);
+    ws.type(k.Text1, hour);
+    EXPECT_TRUE(k.cmdsynop1218.visible) << hour;
+    EXPECT_FALSE(k.Cmdsynop.visible) << hour;
+    for (Control* c : Controls{&k.Text2, &k.Text4, &k.Text5, &k.Text7, &k.Text28, &k.Text14})
+      EXPECT_FALSE(c->reachable()) << hour << c->name;
+    EXPECT_TRUE(k.Text27.reachable()) << hour;
+    ws.press_enter();
+    EXPECT_EQ(ws.focused(), &k.Text27) << hour;
+    EXPECT_EQ(k.Combo5.text, kSynop) << hour;
+    EXPECT_FALSE(k.Command4.enabled) << hour;
+  }
+  test::Station s;
+  Workstation& ws = entry(s, kSynop);
+  ws.FrmOption.Combo1.text = std::string(kStation12);
+  ws.type(ws.FrmKashf.Text1, "15");
+  EXPECT_FALSE(ws.FrmKashf.Frameh1.visible);
+  EXPECT_TRUE(ws.FrmKashf.Cmdsynop.visible);
+}
+
+TEST(Session, RemarksOpenTheWeatherQuestion) {
+  struct Case {
+    std::string_view kind;
+    const char* vis;
+    const char* irix;
+    const char* rh;
+    bool asked;
+    const char* tww;
+  };
+  const Case cases[] = {
+      {kSynop, "", "12", "50", true, "1"},    {kSynop, "", "11", "85", false, "1"},
+      {kSynop, "", "13", "85", true, "1"},    {kMetar, "8000", "", "50", true, ""},
+      {kMetar, "5000", "", "50", false, ""},  {kMetar, "", "", "", false, ""},
+  };
+  for (const Case& c : cases) {
+    test::Station s;
+    Workstation& ws = entry(s, c.kind);
+    FrmKashf& k = ws.FrmKashf;
+    k.Text48.text = c.irix;
+    k.Text4.text = c.vis;
+    k.Text31.text = c.rh;
+    ws.focus_now(k.Text74);
+    ws.take_messages();
+    ws.press_enter();
+    bool asked = false;
+    for (const std::string& m : ws.take_messages()) asked = asked || m.rfind("? ", 0) == 0;
+    EXPECT_EQ(asked, c.asked) << c.kind << c.vis << c.irix << c.rh;
+    EXPECT_EQ(k.TWW.text, c.tww) << c.kind;
+  }
+}
+
+TEST(Session, ObserverChosenAfterTheCoderOpensConfirmation) {
+  test::Station s;
+  Workstation& ws = entry(s, kMetar);
+  FrmKashf& k = ws.FrmKashf;
+  ws.METAR_coded = 1;
+  ws.dbl_click(k.Command4);  // the pointer over the button...
+  ws.dbl_click(k.Text44);    // ...and on
+  EXPECT_EQ(k.Combo7.text, "نام ديدبان كشيك");
+  ASSERT_EQ(k.Combo7.items.size(), 4u);  // the demo profile has four observers
+  ws.type(k.Combo7, "x");
+  EXPECT_EQ(k.Combo7.text, "        نام ديده بان  كشيك");
+  EXPECT_FALSE(k.ZAKHIREH.enabled);
+  ws.choose(k.Combo7, k.Combo7.items[0]);
+  EXPECT_TRUE(k.ZAKHIREH.enabled);
+}
+
+}  // namespace
+}  // namespace obsdesk
