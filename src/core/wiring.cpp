@@ -12,6 +12,7 @@ namespace obsdesk {
 // session
 
 // barometer and psychrometry
+void wire_physics(Workstation& ws);
 
 // rain and tendency
 
@@ -32,6 +33,7 @@ void wire_all(Workstation& ws) {
   // session
 
   // barometer and psychrometry
+  wire_physics(ws);
 
   // rain and tendency
 
