@@ -159,11 +159,13 @@ void Text14_enter(Workstation& ws) {
   }
 }
 
+// An empty barometer box keeps the focus, unless it is sent back to the attached
+// thermometer, which is read first.
 void Text14_leave(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   choose_barometer_box(ws, false);
   Control& in_use = barograph_station(ws) ? static_cast<Control&>(k.Text41) : k.Text14;
-  if (in_use.text.empty()) {
+  if (in_use.text.empty() && ws.focused() != &k.Text13) {
     ws.focus(in_use);
     empty_derived(ws);
   }
