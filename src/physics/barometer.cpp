@@ -32,10 +32,10 @@ void correction_steps(PressureRun& run) {
   });
   // 3. Gravity by latitude, against standard gravity 980.665 cm/s2.
   run.step([&] {
-    Cphi = ((1 - 0.0026373 * run.c2 + 5.9e-06 * run.c2 * run.c2) * (980.616 / 980.665) - 1) * in.PREAD;
+    Cphi = fm::finite(((1 - 0.0026373 * run.c2 + 5.9e-06 * run.c2 * run.c2) * (980.616 / 980.665) - 1) * in.PREAD);
   });
   // 4. Gravity by height.
-  run.step([&] { Ch = (-2.007e-07 * in.h) * in.PREAD + (-1.14e-07 * (in.h / 2)) * in.PREAD; });
+  run.step([&] { Ch = fm::finite((-2.007e-07 * in.h) * in.PREAD + (-1.14e-07 * (in.h / 2)) * in.PREAD); });
   // 5.
   run.step([&] { kept.TC = fm::finite(Cphi + Ch + Ct); });
   // 6. Station pressure: the corrected reading of the mercury barometer, or the
@@ -53,20 +53,20 @@ void reduction_steps(PressureRun& run, bool inverse_rounding) {
   const double t = val(in.T12);
   // 9. Mean virtual temperature of the column below the station.
   run.step([&] {
-    kept.TV = fm::div((in.TDRY + t) / 2 + kVirtualKelvin, 1 - 0.378 * fm::div(kept.E, kept.P));
+    kept.TV = fm::div(fm::finite((in.TDRY + t) / 2 + kVirtualKelvin), 1 - 0.378 * fm::div(kept.E, kept.P));
   });
   // 10. Gravity at the station, m/s2.
   const double g = 9.780356 * (1 + 0.0052885 * sin2 - 5.9e-06 * sin2phi2);
   // 11. QFF, reduced to sea level with a gradient of 0.65 K per 100 m.
   run.step([&] {
-    const double qff = kept.P * fm::exp(fm::div(g * in.h, kRdry * (kept.TV + 0.00325 * in.h)));
+    const double qff = fm::finite(kept.P * fm::exp(fm::div(g * in.h, kRdry * (kept.TV + 0.00325 * in.h))));
     kept.QFFSTR = num(fm::finite(inverse_rounding ? round_to(qff, 1) : qff));
   });
   // 12. QNH by the ICAO standard atmosphere.
   run.step([&] {
     const double K = std::pow(1013.25, 0.190284) * 0.0065 / 288;
     const double S = fm::pow(kept.P - 0.3, 0.190284);
-    const double qnh = (kept.P - 0.3) * fm::pow(1 + K * fm::div(in.h, S), 1 / 0.190284);
+    const double qnh = fm::finite((kept.P - 0.3) * fm::pow(1 + K * fm::div(in.h, S), 1 / 0.190284));
     kept.QNHRAW = inverse_rounding ? round_to(qnh, 1) : qnh;
   });
   // 13. QNH in inches of mercury.
@@ -81,7 +81,7 @@ void reduction_steps(PressureRun& run, bool inverse_rounding) {
     const double R =
         (2 * g0) / (3.085462e-06 + 2.27e-09 * std::cos(2 * phi) - 2 * std::pow(10.0, -12) * std::cos(4 * phi));
     const double G = (g0 * R) / 9.80665;
-    const double Z = fm::div(G * in.h, R + in.h);
+    const double Z = fm::div(fm::finite(G * in.h), R + in.h);
     kept.H850STR = num(fm::finite((kept.TV * 287.05 * fm::ln(fm::div(kept.P, 850))) / 9.80665 + Z));
   });
 }

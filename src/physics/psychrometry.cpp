@@ -35,12 +35,12 @@ double es_ice(double T) {
 // Psychrometer formula: 0.00072 per degree over ice, 0.000799 over water.
 double vapour_pressure(double tdry, double twet, double p) {
   const double Tw = twet + kKelvin;
-  if (twet < 0.1) return round_to(es_ice(Tw) - 0.00072 * (tdry - twet) * p, 3);
+  if (twet < 0.1) return round_to(fm::finite(es_ice(Tw) - 0.00072 * (tdry - twet) * p), 3);
   return fm::finite(es_water(Tw, kP0Goff) - 0.000799 * (tdry - twet) * p);
 }
 
 double relative_humidity(double e, double tdry) {
-  return round_to(fm::div(e, es_water(tdry + kKelvin, kP0Humidity)) * 100, 2);
+  return round_to(fm::finite(fm::div(e, es_water(tdry + kKelvin, kP0Humidity)) * 100), 2);
 }
 
 // Newton on log10 es_w(T) = log10 e.
@@ -93,7 +93,7 @@ PressureReport ModuleINVERS(const PressureInputs& in, PressureResults& kept) {
   PressureRun run{in, kept, {}};
   correction_steps(run);
   const double rh = in.TWET;
-  run.step([&] { kept.E = round_to(es_water(in.TDRY + kKelvin, kP0Humidity) * rh / 100, 2); });
+  run.step([&] { kept.E = round_to(fm::finite(es_water(in.TDRY + kKelvin, kP0Humidity) * rh / 100), 2); });
   run.step([&] { kept.TWETRAW = round_to(wet_bulb(in.TDRY, kept.E, kept.P), 1); });
   run.step([&] { kept.TDRAW = round_to(dew_point_kelvin(kept.E) - kKelvin, 1); });
   reduction_steps(run, true);

@@ -195,6 +195,7 @@ TEST(Pressure, FaultsAreToldAndNeverPublishNaN) {
       {"no station pressure", {1190.8, 35, 41, "", 20, 12, 0, 0}, false, 0, fault_math::kDivisionByZero},
       {"absolute zero wet bulb", {1190.8, 35, 41, "", 20, -273.16, 0, 875}, true, 0, fault_math::kDivisionByZero},
       {"below absolute zero", {0, 0, 0, "", -300, -300, 0, 875}, true, 0, fault_math::kInvalidCall},
+      {"overflowing", {1e308, 0, 0, "1e308", 1e308, 1e308, 0, 1e308}, true, 0, fault_math::kOverflow},
   };
   for (const Row& r : rows) {
     PressureInputs in = r.in;
