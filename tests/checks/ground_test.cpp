@@ -43,14 +43,6 @@ TEST(Ground, SnowDepthFigures) {
     EXPECT_EQ(snow_depth_figures(text), sss) << text;
 }
 
-TEST(Ground, EvaporationAndWaterOfThePan) {
-  EXPECT_DOUBLE_EQ(evaporation_from_water(114.3, 0), 0.1);
-  EXPECT_DOUBLE_EQ(water_from_evaporation(1.0, 0), 1143);
-  EXPECT_DOUBLE_EQ(evaporation_from_water(2285.4, 1.5), 3.5);
-  EXPECT_DOUBLE_EQ(water_from_evaporation(3.5, 1.5), 2285);
-  EXPECT_DOUBLE_EQ(evaporation_from_water(-1142.7, 0), -1);
-}
-
 TEST(Ground, MinimumOnTheScreen) {
   Entry e(kSynop, "06");
   show_groups(e);

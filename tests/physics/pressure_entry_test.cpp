@@ -142,17 +142,6 @@ TEST(PressureEntry, NegativeVapourPressureEmptiesTheWetBulbAndKeepsTheRest) {
   EXPECT_EQ(m.back(), std::string("FrmERR: ") + kMsgCheckWetBulb);
 }
 
-TEST(PressureEntry, HumidityAbove100IsToldAndShown) {
-  Entry e;
-  for (auto [b, text] : {std::pair{&e.k.Text27, "10"}, {&e.k.Text28, "12"}, {&e.k.Text13, "20"}})
-    e.ws.set_text(*b, text);
-  e.ws.type(e.k.Text14, "875.4");
-  EXPECT_GT(val(e.k.Text31.text), 100);
-  const auto m = e.messages();
-  ASSERT_FALSE(m.empty());
-  EXPECT_EQ(m.back(), std::string("FrmERR: ") + kMsgHumidityRange);
-}
-
 struct ReadingCase {
   const char* typed;
   std::vector<bool> answers;  // to the questions, in turn
@@ -312,12 +301,6 @@ TEST(PressureEntry, WetBulbPlausibility) {
     EXPECT_EQ(e.k.Text28.text.empty(), r.refused) << r.dry << "/" << r.wet;
     EXPECT_EQ(e.focus(), r.refused ? "Text28" : "Text13") << r.dry << "/" << r.wet;
   }
-}
-
-TEST(PressureEntry, VapourPressureBoxHoldsTwoDecimals) {
-  Entry e;
-  e.ws.set_text(e.k.Text30, "8.4567");
-  EXPECT_EQ(e.k.Text30.text, "8.46");
 }
 
 }  // namespace
