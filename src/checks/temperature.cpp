@@ -107,8 +107,10 @@ void Text27_key_enter(Workstation& ws) {
   if (first_form(ws)) {
     // Only the dry bulb is read: the station pressure is typed by hand.
     if (tdry.text.empty()) return;
-    if (!dry_bulb_within_air(ws)) return;
-    if (val(tdry.text) < -1 && humidity_instead(ws)) return;
+    if (is_reading(tdry.text)) {
+      if (!dry_bulb_within_air(ws)) return;
+      if (val(tdry.text) < -1 && humidity_instead(ws)) return;
+    }
     k.Text18.locked = false;
     ws.focus(k.Text18);
     return;
