@@ -18,6 +18,7 @@ void wire_past_hours(Workstation& ws);
 void wire_session(Workstation& ws);
 
 // barometer and psychrometry
+void wire_physics(Workstation& ws);
 
 // rain and tendency
 
@@ -44,6 +45,7 @@ void wire_all(Workstation& ws) {
   wire_session(ws);
 
   // barometer and psychrometry
+  wire_physics(ws);
 
   // rain and tendency
 

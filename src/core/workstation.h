@@ -35,6 +35,7 @@
 #include "core/frm_main.h"
 #include "core/services.h"
 #include "core/small_screens.h"
+#include "physics/barometer.h"
 #include "settings/formula_constants.h"
 #include "settings/frm_option.h"
 
@@ -114,6 +115,11 @@ class Workstation {
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
   FormulaConstants formula;  // numbers of the barometer reduction, set with the station settings
+
+  // Barometer and psychrometry: the results of DAMA_FASHAR and ModuleINVERS, kept
+  // from call to call, and the relative humidity last typed in Text31.
+  PressureResults pressure;
+  double typed_RH = 0;
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }
