@@ -22,8 +22,6 @@ void open_present_weather_picker(Workstation&) {}
 
 void open_ground_picker(Workstation&) {}
 
-void open_tendency_dialog(Workstation&) {}
-
 void open_past_hours_editor(Workstation&) {}
 
 void open_copy_out(Workstation&) {}

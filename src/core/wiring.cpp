@@ -14,6 +14,8 @@ namespace obsdesk {
 // barometer and psychrometry
 
 // rain and tendency
+void wire_rain(Workstation&);
+void wire_tendency_dialog(Workstation&);
 
 // coders
 
@@ -34,6 +36,8 @@ void wire_all(Workstation& ws) {
   // barometer and psychrometry
 
   // rain and tendency
+  wire_rain(ws);
+  wire_tendency_dialog(ws);
 
   // coders
 

@@ -31,6 +31,7 @@
 #include "core/frm_main.h"
 #include "core/services.h"
 #include "core/small_screens.h"
+#include "physics/tendency.h"
 #include "settings/frm_option.h"
 
 namespace obsdesk {
@@ -77,6 +78,7 @@ class Workstation {
   // Screens of the barometer and psychrometry.
 
   // Screens of rain and the pressure tendency.
+  obsdesk::FrmNTF FrmNTF;  // the pressure tendency dialog
 
   // Screens of the coders.
 
