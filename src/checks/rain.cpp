@@ -230,7 +230,9 @@ std::string six_hour_rain(const RainTable& table, int hour, bool night_reading) 
 
 int entry_hour(const Workstation& ws) {
   const std::string& t = ws.FrmKashf.Text1.text;
-  return t.empty() ? -1 : static_cast<int>(val(t));
+  if (t.empty()) return -1;
+  const double h = val(t);
+  return h >= 0 && h < 100 ? static_cast<int>(h) : -1;  // no hour of a day beyond that
 }
 
 void wire_rain(Workstation& ws) {
