@@ -16,6 +16,5 @@ void open_present_weather_picker(Workstation&) {}
 
 void open_ground_picker(Workstation&) {}
 
-void open_tendency_dialog(Workstation&) {}
 
 }  // namespace obsdesk

@@ -21,6 +21,8 @@ void wire_session(Workstation& ws);
 void wire_physics(Workstation& ws);
 
 // rain and tendency
+void wire_rain(Workstation&);
+void wire_tendency_dialog(Workstation&);
 
 // coders
 
@@ -48,6 +50,8 @@ void wire_all(Workstation& ws) {
   wire_physics(ws);
 
   // rain and tendency
+  wire_rain(ws);
+  wire_tendency_dialog(ws);
 
   // coders
 

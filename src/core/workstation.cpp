@@ -54,6 +54,7 @@ void Workstation::register_screens() {
   // barometer and psychrometry
 
   // rain and tendency
+  screens_.push_back(&FrmNTF);
 
   // coders
 

@@ -36,6 +36,7 @@
 #include "core/services.h"
 #include "core/small_screens.h"
 #include "physics/barometer.h"
+#include "physics/tendency.h"
 #include "settings/formula_constants.h"
 #include "settings/frm_option.h"
 
@@ -87,6 +88,7 @@ class Workstation {
   // Screens of the barometer and psychrometry.
 
   // Screens of rain and the pressure tendency.
+  obsdesk::FrmNTF FrmNTF;  // the pressure tendency dialog
 
   // Screens of the coders.
 
