@@ -16,6 +16,8 @@ namespace obsdesk {
 // rain and tendency
 
 // coders
+void wire_code_panel(Workstation& ws);
+void wire_synop(Workstation& ws);
 
 // pickers
 
@@ -36,6 +38,8 @@ void wire_all(Workstation& ws) {
   // rain and tendency
 
   // coders
+  wire_code_panel(ws);
+  wire_synop(ws);
 
   // pickers
 

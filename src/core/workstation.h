@@ -104,6 +104,7 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+  std::string GroundCode;    // figure of the state of ground chosen on its board (E or E')
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }
