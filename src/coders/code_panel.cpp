@@ -117,7 +117,10 @@ void read_store(Workstation& ws) {
     if (!st.step()) return;
     int i = 0;
     for (const PanelField& f : cood_fields()) {
-      values.emplace_back(&box_of(ws.FrmCode, f.box), st.is_null(i) ? cood_blank(f.column) : st.text(i));
+      // A box already written (a picker may drop a group in before the panel
+      // was ever loaded) keeps its group; the store fills the untouched ones.
+      Control& box = box_of(ws.FrmCode, f.box);
+      if (!st.is_null(i) && box.text == cood_blank(f.column)) values.emplace_back(&box, st.text(i));
       ++i;
     }
   }
