@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "coders/code_panel.h"
 #include "coders/synop_groups.h"
 #include "core/record.h"
 #include "support/test_support.h"
@@ -247,6 +248,52 @@ TEST(SynopReport, TwelveHourStationLines) {
   ws.click(ws.FrmKashf.cmdsynop1218);
   EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(150, 10), "1601217020");
   EXPECT_EQ(ws.FrmCode.TXTDAYmi.text, "21");
+}
+
+}  // namespace
+}  // namespace obsdesk
+
+namespace obsdesk {
+namespace {
+
+// A full 06 UTC report of a 24-hour station, with a CB layer, the ground,
+// the pan, the 24-hour rain and the upper-air slot.
+TEST(SynopReport, FullSixHourReportWithSections3And5) {
+  test::Station s({2024, 3, 20, 6, 40, 0});
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Text1", "06"}, {"Text48", "12"}, {"Text5", "7"}, {"Text2", "270"}, {"Text3", "6"}, {"Text4", "12000"},
+           {"Text6", "2"}, {"Combo1", "CU     2"}, {"Text7", "800"}, {"Text8", "3"}, {"Combo2", "CB     9"},
+           {"Text9", "1200"}, {"Text10", "2"}, {"Combo3", "SC     4"}, {"Text11", "1600"}, {"Text49", "5"},
+           {"Combo4", "CB     9"}, {"txtmin", "800"}, {"Text17", "3"}, {"Combo6", "AC     3"}, {"Text16", "3500"},
+           {"Text23", "2"}, {"Combo9", "CI     1"}, {"Text22", "8000"}, {"Text27", "8.4"}, {"Text28", "4.2"},
+           {"Text29", "-1.6"}, {"Text31", "49.6"}, {"Text18", "881.4"}, {"Text21", "1018.7"}, {"Text24", "1480.4"},
+           {"Text38", "2"}, {"Text25", "0.8"}, {"txtpast6", "2.5"}, {"Text53", "4.2"}, {"Text66", "3.4"},
+           {"Text68", "-2.5"}, {"Text69", "3"}});
+  ws.GroundCode = "1";
+  FrmCode& p = ws.FrmCode;
+  load_code_panel(ws);
+  p.Text85.text = "78082";
+  p.Text91.text = "30102";
+  p.Text87.text = "90550";
+  ws.click(ws.FrmKashf.Cmdsynop);
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text,
+            "12562 72706 10084 21016 38814 40187 52008 60031 78082 85931 "
+            "333 30102 41003 50340 70042 82826 83940 83361=");
+  EXPECT_EQ(ws.SynopLine1, "12562 72706 10084 21016 38814 40187 52008 60031 78082 85931");
+  EXPECT_EQ(ws.SynopLine2, "333 30102 41003 50340 70042 82826 83940 83361=");
+  EXPECT_EQ(ws.GroundSign, "1");
+  EXPECT_EQ(ws.GroundTemp, "03");
+  EXPECT_EQ(p.Text93.text, "48480");
+  const std::string b = "     ";
+  const std::string line = "24075424032006" "12562" "72706" + b + "10084" "21016" "38814" "40187" "52008" "60031"
+                           "78082" "85931" "90550" "333" + b + b + "30102" "41003" "48480" "50340" + b + b +
+                           "70042" "82826" "83940" "83361" + b + "90042" "050" + b + b + "   " + b + b + b + b + b +
+                           b + "      " " ";
+  EXPECT_EQ(p.TXTSCDATA.text, line);
+  EXPECT_EQ(p.TXTTEDAD.text, "200");
+  EXPECT_EQ(p.TXTgolbad.text, "40754240320" "06***27006*******");
 }
 
 }  // namespace
