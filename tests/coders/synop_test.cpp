@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "coders/code_panel.h"
 #include "coders/synop_groups.h"
 #include "core/record.h"
@@ -19,6 +22,17 @@ void put(Workstation& ws, std::initializer_list<std::pair<const char*, const cha
     ASSERT_NE(c, nullptr) << name;
     c->text = text;
   }
+}
+
+// The report as a bulletin carries it, section 0 in front, against its file in
+// tests/data/synop, which any FM-12 decoder can read.
+void expect_bulletin_file(Workstation& ws, const std::string& file) {
+  std::ifstream in(std::string(OBSDESK_SOURCE_DIR) + "/tests/data/synop/" + file);
+  ASSERT_TRUE(in) << file;
+  std::string stored;
+  std::getline(in, stored);
+  const FrmKashf& k = ws.FrmKashf;
+  EXPECT_EQ("AAXX " + k.TXTDAYmi.text + k.Text1.text + "1 " + ws.FrmOption.NUMCOD.text + " " + k.txtSYN.text, stored);
 }
 
 // The worked example: hour 12, a layer of cumulus at 600 m, no weather group.
@@ -73,6 +87,7 @@ TEST(SynopReport, WholeRunFromTheBoxesToTheLines) {
   EXPECT_EQ(p.TXTSCDATA.text, line);
   EXPECT_EQ(p.TXTTEDAD.text, "200");
   EXPECT_EQ(p.TXTgolbad.text, "40754240320" "12***24004*******");
+  expect_bulletin_file(ws, "worked-example-12utc.txt");
 }
 
 TEST(SynopReport, ALongReportBreaksAtTheLastBlankWithin61) {
@@ -294,6 +309,7 @@ TEST(SynopReport, FullSixHourReportWithSections3And5) {
   EXPECT_EQ(p.TXTSCDATA.text, line);
   EXPECT_EQ(p.TXTTEDAD.text, "200");
   EXPECT_EQ(p.TXTgolbad.text, "40754240320" "06***27006*******");
+  expect_bulletin_file(ws, "full-06utc.txt");
 }
 
 }  // namespace
