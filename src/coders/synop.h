@@ -42,6 +42,8 @@ std::string synop_line_prefix(Workstation& ws);
 // Shows the S line and tells when it is not 200 characters long.
 void set_archive_line(Workstation& ws, std::string line);
 
+// Binds the focus and pointer rules of Cmdsynop; wire_synop calls it.
+void wire_synop_pointer(Workstation& ws);
 void wire_synop(Workstation& ws);
 
 }  // namespace obsdesk
