@@ -48,7 +48,8 @@ void Cmdsynop_mouse_up(Workstation& ws) {
   k.Combo7.items.clear();
   for (Control* name : Controls{&o.Text5, &o.Text6, &o.Text7, &o.Text8, &o.Text9, &o.Text10, &o.Text11, &o.Text12})
     if (!trim(name->text).empty()) k.Combo7.items.push_back(name->text);
-  ws.set(k.Combo7, "نام ديدبان كشيك");
+  // The prompt is put in place without a change: only a choice counts.
+  k.Combo7.text = "نام ديدبان كشيك";
 }
 
 }  // namespace
