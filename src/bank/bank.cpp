@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "bank/sqlite.h"
+#include "coders/code_panel.h"
 #include "core/record.h"
 #include "core/textnum.h"
 #include "settings/frm_option.h"
@@ -205,6 +206,7 @@ void create_bank(const fs::path& root) {
   {
     Database db(resolve_bank_path(root, station_folder + "\\ACCESS\\Kashf.mdb"), Database::Mode::Create);
     create_kashf_table(db);
+    create_cood_table(db);
   }
 }
 

@@ -15,6 +15,8 @@ FrmCode::FrmCode() : Screen("FrmCode") {
   Text103.text = "   ";
   Text88.text = "333";
   Text6.text = "999";
+  // The one character that closes the S line, which is 200 characters with it.
+  Text7.text = " ";
 }
 
 }  // namespace obsdesk

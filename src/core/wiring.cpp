@@ -25,6 +25,8 @@ void wire_rain(Workstation&);
 void wire_tendency_dialog(Workstation&);
 
 // coders
+void wire_code_panel(Workstation& ws);
+void wire_synop(Workstation& ws);
 
 // pickers
 
@@ -54,6 +56,8 @@ void wire_all(Workstation& ws) {
   wire_tendency_dialog(ws);
 
   // coders
+  wire_code_panel(ws);
+  wire_synop(ws);
 
   // pickers
 

@@ -122,6 +122,7 @@ class Workstation {
   // from call to call, and the relative humidity last typed in Text31.
   PressureResults pressure;
   double typed_RH = 0;
+  std::string GroundCode;    // figure of the state of ground chosen on its board (E or E')
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }

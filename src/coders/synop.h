@@ -1,0 +1,49 @@
+// The SYNOP coder on the entry screen: the cloud check when Cmdsynop gets the
+// focus, the pointer rules over it, and the run of its click, which fills the
+// SYNOP frame of the code panel, joins txtSYN, splits it into the two report
+// lines and composes the S and G archive lines. cmdsynop1218 makes the S line of
+// a 12-hour station at 18, 21 and 00 UTC.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace obsdesk {
+
+class Workstation;
+
+// The message of the cloud check; the first row has a double blank before "را".
+inline constexpr std::string_view kCloudCheckAmount = "مــقدار ، نــوع و يا ارتفاع ابــر  را چــك نمـائيـــد";
+inline constexpr std::string_view kCloudCheck = "مــقدار ، نــوع و يا ارتفاع ابــر را چــك نمـائيـــد";
+inline constexpr std::string_view kWeatherMissing = "هواي حاضر ويا گذشته را چك نمائيد";
+inline constexpr std::string_view kNoCloudAmounts = "لطفا وضعيت ابر ناكي را مشخص نمـائيـــد";
+inline constexpr std::string_view kLineNot200 = "مــقداركراكتر مخالف 200 ميباشد";
+inline constexpr std::string_view kNegativeEvaporation = "تبخير نمي تواند منفي باشد";
+
+// The cloud rows against each other, run when Cmdsynop gets the focus. False
+// when a row fails: its message is shown and the focus sent to the box.
+bool synop_cloud_check(Workstation& ws);
+
+// The click of Cmdsynop.
+void run_synop(Workstation& ws);
+// The click of cmdsynop1218.
+void run_synop1218(Workstation& ws);
+
+// txtSYN from the boxes in their order: blank boxes left out, QNT behind, "=".
+std::string join_synop(const std::vector<std::string>& boxes, std::string_view qnt);
+
+// Pieces of the run, shared by the two buttons.
+void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_hour,
+                     std::initializer_list<std::string_view> hours);
+void synop_copies(Workstation& ws);
+// "2", station number, year, month, day and hour of the panel.
+std::string synop_line_prefix(Workstation& ws);
+// Shows the S line and tells when it is not 200 characters long.
+void set_archive_line(Workstation& ws, std::string line);
+
+// Binds the focus and pointer rules of Cmdsynop; wire_synop calls it.
+void wire_synop_pointer(Workstation& ws);
+void wire_synop(Workstation& ws);
+
+}  // namespace obsdesk

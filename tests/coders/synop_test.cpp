@@ -1,0 +1,316 @@
+// The SYNOP coder through the entry screen: a filled observation, a press of
+// Cmdsynop, then the panel, txtSYN, the two report lines and the archive lines.
+#include "coders/synop.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "coders/code_panel.h"
+#include "coders/synop_groups.h"
+#include "core/record.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+// Texts put straight into the boxes, as an observer leaves them.
+void put(Workstation& ws, std::initializer_list<std::pair<const char*, const char*>> values) {
+  for (const auto& [name, text] : values) {
+    Control* c = ws.control(name);
+    ASSERT_NE(c, nullptr) << name;
+    c->text = text;
+  }
+}
+
+// The report as a bulletin carries it, section 0 in front, against its file in
+// tests/data/synop, which any FM-12 decoder can read.
+void expect_bulletin_file(Workstation& ws, const std::string& file) {
+  std::ifstream in(std::string(OBSDESK_SOURCE_DIR) + "/tests/data/synop/" + file);
+  ASSERT_TRUE(in) << file;
+  std::string stored;
+  std::getline(in, stored);
+  const FrmKashf& k = ws.FrmKashf;
+  EXPECT_EQ("AAXX " + k.TXTDAYmi.text + k.Text1.text + "1 " + ws.FrmOption.NUMCOD.text + " " + k.txtSYN.text, stored);
+}
+
+// The worked example: hour 12, a layer of cumulus at 600 m, no weather group.
+void worked_example(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  k.Combo5.text = std::string(kSynop);
+  k.Cmdsynop.enabled = true;
+  put(ws, {{"TXTYEARmi", "2024"}, {"TXTMONTHMI", "03"}, {"TXTDAYmi", "20"}, {"TXTYEARsh", "1403"},
+           {"TXTMONTHSH", "01"}, {"TXTDAYsh", "01"}, {"Text1", "12"}, {"Text48", "32"}, {"Text5", "5"},
+           {"Text2", "240"}, {"Text3", "4"}, {"Text4", "8000"}, {"Text6", "3"}, {"Combo1", "CU     1"},
+           {"Text7", "600"}, {"Text8", "0"}, {"Combo2", "       0"}, {"Text9", "0"}, {"Text10", "0"},
+           {"Combo3", "       0"}, {"Text11", "0"}, {"Text49", "3"}, {"Combo4", "CU     1"}, {"txtmin", "600"},
+           {"Text17", "0"}, {"Combo6", "       0"}, {"Text16", "0"}, {"Text23", "0"}, {"Combo9", "       0"},
+           {"Text22", "0"}, {"Text27", "25.4"}, {"Text29", "12.1"}, {"Text18", "1012.5"}, {"Text21", "1015.0"},
+           {"Text38", "3"}, {"Text25", "1.2"}, {"txtpast6", "0"}, {"Text31", "45.2"}, {"Txttond", "     "},
+           {"Txtmaxwind", "     "}, {"Image1", "ww02"}, {"Image2", "W0"}});
+}
+
+TEST(SynopReport, TheWorkedExampleFromGroupsToText) {
+  const WindGroups wind = wind_groups("5", "240", "4");
+  const std::string text = join_synop(
+      {"32" + *cloud_base_figure(600) + visibility_code(8000), wind.nddff, "     ", *signed_tenths_group("1", "25.4"),
+       *signed_tenths_group("2", "12.1"), pressure_group("3", "1012.5"), pressure_group("4", "1015.0"),
+       tendency_group("3", "1.2"), *rain_group("0", "12", kStation24), "     ",
+       cloud_group("3", "CU     1", "       0", "       0", "0"), "333", "     ", "     ", "     ", "     ", "     ",
+       "     ", "     ", "     ", "     ", "     ", "     ", "     "},
+      "");
+  EXPECT_EQ(text, "32558 52404 10254 20121 30125 40150 53012 60001 83100 333=");
+  EXPECT_EQ(join_synop({"     ", "52404", "", "333"}, "QNT"), "52404 333 QNT=");
+}
+
+TEST(SynopReport, WholeRunFromTheBoxesToTheLines) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  ws.click(ws.FrmKashf.Cmdsynop);
+  FrmCode& p = ws.FrmCode;
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text, "32558 52404 10254 20121 30125 40150 53012 60001 83100 333 83820=");
+  EXPECT_EQ(ws.SynopLine1, "32558 52404 10254 20121 30125 40150 53012 60001 83100 333");
+  EXPECT_EQ(ws.SynopLine2, "83820=");
+  EXPECT_EQ(ws.SYNOP_coded, 1);
+  EXPECT_TRUE(ws.FrmKashf.Combo7.enabled);
+  EXPECT_EQ(p.Text103.text, "045");
+  EXPECT_EQ(p.Text34.text, "24004");
+  EXPECT_EQ(ws.FrmKashf.TEXTMIN.text, "600");
+  const std::string b5 = "     ";
+  const std::string line = "24075424032012" "32558" "52404" + b5 + "10254" "20121" "30125" "40150" "53012" "60001" +
+                           b5 + "83100" + b5 + "333" + b5 + b5 + b5 + b5 + b5 /* 4a3hhh */ + b5 + b5 + b5 + b5 +
+                           "83820" + b5 + b5 + b5 + b5 + "045" + b5 + b5 + "   " + b5 + b5 + b5 + b5 + b5 + b5 +
+                           "      " + " ";
+  EXPECT_EQ(p.TXTSCDATA.text, line);
+  EXPECT_EQ(p.TXTTEDAD.text, "200");
+  EXPECT_EQ(p.TXTgolbad.text, "40754240320" "12***24004*******");
+  expect_bulletin_file(ws, "worked-example-12utc.txt");
+}
+
+TEST(SynopReport, ALongReportBreaksAtTheLastBlankWithin61) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Text1", "15"}, {"Text60", "31.2"}, {"Text59", "12.5"}, {"Text32", "20.4"}, {"Text33", "-"},
+           {"TXT_QNT", "QNT"}});
+  ws.FrmCode.Text85.text = "70222";
+  ws.click(ws.FrmKashf.Cmdsynop);
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text,
+            "32558 52404 10254 20121 30125 40150 53012 70222 83100 333 10312 83820 QNT=");
+  EXPECT_EQ(ws.SynopLine1, "32558 52404 10254 20121 30125 40150 53012 70222 83100 333");
+  EXPECT_EQ(ws.SynopLine2, "10312 83820 QNT=");
+  EXPECT_EQ(ws.FrmCode.Text84.text, "     ");  // no rain group at 15 with no rain
+  EXPECT_EQ(ws.FrmCode.Text41.text, "10204");  // soil, archive line only
+  EXPECT_EQ(ws.FrmCode.Text42.text, "     ");
+  EXPECT_EQ(ws.FrmCode.Text90.text, "     ");  // the minimum only at 03
+  EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(160, 3), "999");
+}
+
+TEST(SynopReport, RefusalsAndFailuresStopTheRunWhereTheyStand) {
+  struct Case {
+    const char* name;
+    std::vector<std::pair<const char*, const char*>> values;
+    std::string message;
+    int coded;
+    const char* focus;      // "" when the focus stays on the button
+    const char* last_box;   // a box the run reached ("" for none)
+    const char* first_left; // a box the run did not reach
+  };
+  const Case table[] = {
+      {"iX 1 without weather", {{"Text48", "31"}}, "FrmERR: " + std::string(kWeatherMissing), 0, "", "", "Text77"},
+      {"no cloud amounts", {{"Text6", "0"}, {"Text7", "0"}, {"Combo1", "       0"}, {"Text49", "0"}, {"Combo4", "       0"}, {"txtmin", "0"}},
+       "FrmERR: " + std::string(kNoCloudAmounts), 1, "FrmKashf.Text6", "", "Text77"},
+      {"empty dew point", {{"Text29", ""}}, "FrmERR: Type mismatch", 1, "", "Text79", "Text80"},
+      {"letters in the wind", {{"Text3", "4k"}}, "FrmERR: Type mismatch", 1, "", "", "Text77"},
+      {"negative evaporation", {{"Text66", "-1.2"}}, "box: " + std::string(kNegativeEvaporation), 1,
+       "FrmKashf.Text66", "Text86", "Text94"},
+  };
+  for (const Case& c : table) {
+    test::Station s;
+    Workstation& ws = s.open_entry();
+    worked_example(ws);
+    for (const auto& [name, text] : c.values) ws.control(name)->text = text;
+    ws.FrmKashf.txtSYN.text = "before";
+    ws.FrmKashf.Frame8.visible = true;  // the pan boxes, shown at 06
+    ws.click(ws.FrmKashf.Cmdsynop);
+    const auto messages = ws.take_messages();
+    ASSERT_FALSE(messages.empty()) << c.name;
+    EXPECT_EQ(messages.back(), c.message) << c.name;
+    EXPECT_EQ(ws.SYNOP_coded, c.coded) << c.name;
+    EXPECT_EQ(ws.FrmKashf.txtSYN.text, "before") << c.name;
+    if (*c.focus) {
+      EXPECT_EQ(ws.focused()->full_name(), c.focus) << c.name;
+    }
+    if (*c.last_box) {
+      EXPECT_NE(ws.FrmCode.find(c.last_box)->text, "     ") << c.name;
+    }
+    EXPECT_EQ(ws.FrmCode.find(c.first_left)->text, "     ") << c.name;
+  }
+}
+
+TEST(SynopReport, CloudCheckWhenTheButtonGetsTheFocus) {
+  struct Case {
+    const char* name;
+    std::vector<std::pair<const char*, const char*>> values;
+    const char* focus;
+    bool emptied;
+    bool first_row;
+  };
+  const Case table[] = {
+      {"layer 2 height without amount", {{"Text9", "900"}}, "FrmKashf.Text8", true, true},
+      {"middle type without amount", {{"Combo6", "AC     3"}}, "FrmKashf.Text17", true, true},
+      {"high amount missing", {{"Text22", "7000"}}, "FrmKashf.Text23", true, true},
+      {"layer 3 amount without height", {{"Text10", "2"}, {"Combo3", "SC     4"}}, "FrmKashf.Text11", true, false},
+      {"summary without minimum height", {{"txtmin", "0"}}, "FrmKashf.Text49", true, false},
+      {"middle amount without height", {{"Text17", "2"}, {"Combo6", "AC     3"}}, "FrmKashf.Text16", true, false},
+      {"layer 2 without type", {{"Text8", "2"}, {"Text9", "900"}}, "FrmKashf.Combo2", false, false},
+      {"summary without type", {{"Combo4", "       0"}}, "FrmKashf.Combo4", false, false},
+      {"high without type", {{"Text23", "1"}, {"Text22", "7000"}}, "FrmKashf.Combo9", false, false},
+  };
+  for (const Case& c : table) {
+    test::Station s;
+    Workstation& ws = s.open_entry();
+    worked_example(ws);
+    for (const auto& [name, text] : c.values) ws.control(name)->text = text;
+    ws.FrmKashf.txtSYN.text = "before";
+    ws.click(ws.FrmKashf.Cmdsynop);
+    const auto messages = ws.take_messages();
+    ASSERT_EQ(messages.size(), 1u) << c.name;
+    EXPECT_EQ(messages[0], "FrmERR: " + std::string(c.first_row ? kCloudCheckAmount : kCloudCheck)) << c.name;
+    EXPECT_EQ(ws.focused()->full_name(), c.focus) << c.name;
+    Control* box = ws.control(std::string(c.focus).substr(9));
+    EXPECT_EQ(box->text.empty(), c.emptied) << c.name;
+    EXPECT_EQ(ws.FrmKashf.txtSYN.text, "before") << c.name << ": no click after a refusal";
+  }
+  // A sky of 9 or 0 is not checked.
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Text5", "9"}, {"Text9", "900"}});
+  ws.click(ws.FrmKashf.Cmdsynop);
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text.substr(0, 11), "32/58 92404");
+}
+
+TEST(SynopReport, PointerOverTheButtonAsksForTheWeather) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Image1", ""}, {"Image2", ""}});
+  ws.FrmOption.Text7.text = "";  // a blank observer is left out
+  ws.click(ws.FrmKashf.Cmdsynop);
+  const auto messages = ws.take_messages();
+  ASSERT_EQ(messages.size(), 2u);
+  EXPECT_EQ(messages[0], "FrmERR: لطفاهواي حاضر انتخاب گردد");
+  EXPECT_EQ(messages[1], "FrmERR: لطفاهواي گذشته انتخاب گردد");
+  EXPECT_EQ(ws.FrmKashf.Cmdsynop.back_color, 0x80FF80);
+  EXPECT_EQ(ws.FrmKashf.Command4.back_color, 0xE0E0E0);
+  EXPECT_EQ(ws.FrmKashf.Combo7.text, "نام ديدبان كشيك");
+  EXPECT_EQ(ws.FrmKashf.Combo7.items, (std::vector<std::string>{"احمد رضايي", "مريم كريمي", "زهرا حسيني"}));
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text.substr(0, 5), "32558");  // the click still codes
+}
+
+TEST(SynopReport, AReportAfterMidnightTakesTheNextDay) {
+  test::Station s({2024, 2, 28, 23, 40, 0});
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Text1", "00"}, {"TXTMONTHMI", "02"}, {"TXTDAYmi", "28"}, {"TXTDAYsh", "09"}});
+  ws.click(ws.FrmKashf.Cmdsynop);
+  EXPECT_EQ(ws.FrmKashf.TXTDAYmi.text, "29");
+  EXPECT_EQ(ws.FrmKashf.TXTDAYsh.text, "10");
+  EXPECT_EQ(ws.FrmCode.TXTDAYmi.text, "29");
+  EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(0, 14), "24075424022900");
+  EXPECT_EQ(ws.FrmCode.TXTgolbad.text.substr(0, 13), "4075424022900");
+}
+
+TEST(SynopReport, TwelveHourStationLines) {
+  struct Case {
+    const char* hour;
+    std::size_t at;
+    const char* group;
+  };
+  const Case table[] = {{"18", 107, "55125"}, {"21", 150, "16012"}, {"00", 14, "     "}};
+  for (const Case& c : table) {
+    test::Station s({2024, 3, 20, 15, 10, 0});
+    Workstation& ws = s.open_entry();
+    ws.FrmOption.Combo1.text = std::string(kStation12);
+    worked_example(ws);
+    put(ws, {{"Text1", c.hour}, {"Txttimesun", "12.5"}, {"Txtmaxwind", "16012"}, {"Txttond", "17020"}});
+    ws.FrmKashf.ZAKHIREH.enabled = false;
+    ws.FrmKashf.cmdsynop1218.visible = true;  // shown for this station at these hours
+    ws.click(ws.FrmKashf.cmdsynop1218);
+    const std::string& line = ws.FrmCode.TXTSCDATA.text;
+    EXPECT_EQ(line.size(), 200u) << c.hour;
+    EXPECT_EQ(ws.FrmCode.TXTTEDAD.text, "200") << c.hour;
+    // At 15 h on the clock the day steps for 18 and 21 UTC, not for 00.
+    const std::string day = std::string(c.hour) == "00" ? "20" : "21";
+    EXPECT_EQ(line.substr(0, 14), "2407542403" + day + c.hour) << c.hour;
+    EXPECT_EQ(line.substr(c.at, 5), c.group) << c.hour;
+    EXPECT_EQ(line.find_first_not_of(' ', 14), c.hour == std::string("00") ? std::string::npos : c.at) << c.hour;
+    EXPECT_TRUE(ws.FrmKashf.ZAKHIREH.enabled) << c.hour;
+    EXPECT_FALSE(ws.FrmKashf.cmdsynop1218.enabled) << c.hour;
+    EXPECT_EQ(ws.take_messages(), std::vector<std::string>{}) << c.hour;
+  }
+  // The 21 line holds both winds; the date steps at 15 h on the clock.
+  test::Station s({2024, 3, 20, 15, 10, 0});
+  Workstation& ws = s.open_entry();
+  ws.FrmOption.Combo1.text = std::string(kStation12);
+  worked_example(ws);
+  put(ws, {{"Text1", "21"}, {"Txtmaxwind", "16012"}, {"Txttond", "17020"}, {"Text4", ""}});
+  ws.FrmKashf.cmdsynop1218.visible = true;
+  ws.click(ws.FrmKashf.cmdsynop1218);
+  EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(150, 10), "1601217020");
+  EXPECT_EQ(ws.FrmCode.TXTDAYmi.text, "21");
+}
+
+}  // namespace
+}  // namespace obsdesk
+
+namespace obsdesk {
+namespace {
+
+// A full 06 UTC report of a 24-hour station, with a CB layer, the ground,
+// the pan, the 24-hour rain and the upper-air slot.
+TEST(SynopReport, FullSixHourReportWithSections3And5) {
+  test::Station s({2024, 3, 20, 6, 40, 0});
+  Workstation& ws = s.open_entry();
+  worked_example(ws);
+  put(ws, {{"Text1", "06"}, {"Text48", "12"}, {"Text5", "7"}, {"Text2", "270"}, {"Text3", "6"}, {"Text4", "12000"},
+           {"Text6", "2"}, {"Combo1", "CU     2"}, {"Text7", "800"}, {"Text8", "3"}, {"Combo2", "CB     9"},
+           {"Text9", "1200"}, {"Text10", "2"}, {"Combo3", "SC     4"}, {"Text11", "1600"}, {"Text49", "5"},
+           {"Combo4", "CB     9"}, {"txtmin", "800"}, {"Text17", "3"}, {"Combo6", "AC     3"}, {"Text16", "3500"},
+           {"Text23", "2"}, {"Combo9", "CI     1"}, {"Text22", "8000"}, {"Text27", "8.4"}, {"Text28", "4.2"},
+           {"Text29", "-1.6"}, {"Text31", "49.6"}, {"Text18", "881.4"}, {"Text21", "1018.7"}, {"Text24", "1480.4"},
+           {"Text38", "2"}, {"Text25", "0.8"}, {"txtpast6", "2.5"}, {"Text53", "4.2"}, {"Text66", "3.4"},
+           {"Text68", "-2.5"}, {"Text69", "3"}});
+  ws.GroundCode = "1";
+  FrmCode& p = ws.FrmCode;
+  load_code_panel(ws);
+  p.Text85.text = "78082";
+  p.Text91.text = "30102";
+  p.Text87.text = "90550";
+  ws.click(ws.FrmKashf.Cmdsynop);
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
+  EXPECT_EQ(ws.FrmKashf.txtSYN.text,
+            "12562 72706 10084 21016 38814 40187 52008 60031 78082 85931 "
+            "333 30102 41003 50340 70042 82826 83940 83361=");
+  EXPECT_EQ(ws.SynopLine1, "12562 72706 10084 21016 38814 40187 52008 60031 78082 85931");
+  EXPECT_EQ(ws.SynopLine2, "333 30102 41003 50340 70042 82826 83940 83361=");
+  EXPECT_EQ(ws.GroundSign, "1");
+  EXPECT_EQ(ws.GroundTemp, "03");
+  EXPECT_EQ(p.Text93.text, "48480");
+  const std::string b = "     ";
+  const std::string line = "24075424032006" "12562" "72706" + b + "10084" "21016" "38814" "40187" "52008" "60031"
+                           "78082" "85931" "90550" "333" + b + b + "30102" "41003" "48480" "50340" + b + b +
+                           "70042" "82826" "83940" "83361" + b + "90042" "050" + b + b + "   " + b + b + b + b + b +
+                           b + "      " " ";
+  EXPECT_EQ(p.TXTSCDATA.text, line);
+  EXPECT_EQ(p.TXTTEDAD.text, "200");
+  EXPECT_EQ(p.TXTgolbad.text, "40754240320" "06***27006*******");
+  expect_bulletin_file(ws, "full-06utc.txt");
+}
+
+}  // namespace
+}  // namespace obsdesk
