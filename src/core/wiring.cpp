@@ -16,6 +16,7 @@ namespace obsdesk {
 // rain and tendency
 
 // coders
+void wire_metar(Workstation& ws);
 
 // pickers
 
@@ -36,6 +37,7 @@ void wire_all(Workstation& ws) {
   // rain and tendency
 
   // coders
+  wire_metar(ws);
 
   // pickers
 
