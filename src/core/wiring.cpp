@@ -27,6 +27,7 @@ void wire_tendency_dialog(Workstation&);
 // coders
 void wire_code_panel(Workstation& ws);
 void wire_synop(Workstation& ws);
+void wire_metar(Workstation& ws);
 
 // pickers
 
@@ -58,6 +59,7 @@ void wire_all(Workstation& ws) {
   // coders
   wire_code_panel(ws);
   wire_synop(ws);
+  wire_metar(ws);
 
   // pickers
 

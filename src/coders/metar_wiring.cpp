@@ -1,0 +1,14 @@
+#include "coders/metar.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+void wire_metar(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  k.Command4.on(Event::Enter, Command4_enter);
+  k.Command4.on(Event::Click, Command4_click);
+  k.Command8.on(Event::Enter, Command8_enter);
+  k.Command8.on(Event::Click, Command8_click);
+}
+
+}  // namespace obsdesk

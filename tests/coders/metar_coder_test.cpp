@@ -1,0 +1,210 @@
+// The METAR and SPECI coders run through the entry screen: a filled observation,
+// a click on the coder button, then the code panel, the report text and the lines.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/record.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+using Fields = std::vector<std::pair<std::string, std::string>>;
+
+// The observation of the worked example: day 7, 12 UTC, one layer of CU at 600 m.
+const Fields kExample = {
+    {"TXTDAYmi", "07"},     {"TXTMONTHMI", "03"},   {"TXTYEARmi", "2024"},   {"Text1", "12"},
+    {"Text2", "240"},       {"Text3", "4"},         {"Text4", "8000"},       {"Text5", "3"},
+    {"Text6", "3"},         {"Combo1", "CU     1"}, {"Text7", "600"},        {"Text8", "0"},
+    {"Combo2", "       0"}, {"Text9", "0"},         {"Text10", "0"},         {"Combo3", "       0"},
+    {"Text11", "0"},        {"Text17", "0"},        {"Combo6", "       0"},  {"Text16", "0"},
+    {"Text23", "0"},        {"Combo9", "       0"}, {"Text22", "0"},         {"Text27", "25.4"},
+    {"Text29", "12.1"},     {"Text19", "1015.2"},   {"Image10", "ww-sky-bc"}, {"FrmDisplayKashf.TXTWW1", " bc"},
+};
+
+struct Entry {
+  test::Station s;
+  Workstation& ws;
+  explicit Entry(std::string_view kind, const Fields& changes = {}) : ws(s.open_entry()) {
+    ws.focus_now(ws.FrmKashf.Combo5);
+    ws.choose(ws.FrmKashf.Combo5, kind);
+    for (const auto& [name, value] : kExample) ws.set_text(s.at(name), value);
+    for (const auto& [name, value] : changes) ws.set_text(s.at(name), value);
+    ws.take_messages();
+  }
+  std::string operator[](const std::string& name) { return s.at(name).text; }
+  std::vector<std::string> click(Control& c) {
+    ws.click(c);
+    return ws.take_messages();
+  }
+};
+
+TEST(MetarCoder, WorkedExample) {
+  Entry e(kMetar);
+  EXPECT_TRUE(e.click(e.ws.FrmKashf.Command4).empty());
+  EXPECT_EQ(e["FrmCode.TXTYYGG"], "071150Z");
+  EXPECT_EQ(e["FrmCode.TXTUTC"], "1200");
+  EXPECT_EQ(e["FrmCode.TXTCCCC"], "OIII");
+  EXPECT_EQ(e["TXTMET"], " 24008KT 8000 SCT020 25/12 Q1015=");
+  EXPECT_EQ(e.ws.MetarLine1, " 24008KT 8000 SCT020 25/12 Q1015=");
+  EXPECT_EQ(e.ws.MetarLine2, "");
+  EXPECT_EQ(e.ws.METAR_coded, 1);
+  EXPECT_TRUE(e.ws.FrmKashf.Combo7.enabled);
+  EXPECT_EQ(e["TEXTMIN"], "600");
+}
+
+TEST(MetarCoder, ReportsOfTheSameObservation) {
+  const struct {
+    std::string_view kind;
+    Fields changes;
+    const char* button;
+    const char* text_box;
+    const char* text;
+    const char* time_box;
+    const char* time;
+  } table[] = {
+      {kMetar30, {{"txt1", "1230"}}, "Command4", "TXTMET", " 24008KT 8000 SCT020 25/12 Q1015=", "FrmCode.TXTYYGG",
+       "071230Z"},
+      {kSpeci, {{"txt1", "1234"}, {"TXTDAYmi", "05"}}, "Command8", "TXTSPE", "51234Z 24008KT 8000 SCT020 25/12 Q1015=",
+       "FrmCode.Text10", "51234Z"},
+      {kSpeci, {{"txt1", "7"}}, "Command8", "TXTSPE", "70007Z 24008KT 8000 SCT020 25/12 Q1015=", "FrmCode.Text10",
+       "70007Z"},
+      {kMetar, {{"Text1", "00"}, {"TXTDAYmi", "01"}}, "Command4", "TXTMET", " 24008KT 8000 SCT020 25/12 Q1015=",
+       "FrmCode.TXTYYGG", "010000Z"},
+  };
+  for (const auto& row : table) {
+    Entry e(row.kind, row.changes);
+    e.click(e.s.at(row.button));
+    EXPECT_EQ(e[row.text_box], row.text) << row.kind;
+    EXPECT_EQ(e[row.time_box], row.time) << row.kind;
+  }
+}
+
+TEST(SpeciCoder, PadsTheTimeAndSplitsIntoItsOwnLines) {
+  Entry e(kSpeci, {{"txt1", "7"}, {"Text2", "240"}, {"Text3", "10"}, {"TXTGUSTY", "15"}, {"Text40", "200"},
+                   {"Text39", "280"}, {"Text6", "2"}, {"Text8", "3"}, {"Combo2", "SC     4"}, {"Text9", "900"},
+                   {"Text10", "5"}, {"Combo3", "SC     5"}, {"Text11", "1200"}, {"Text20", "29.97"}});
+  e.click(e.ws.FrmKashf.Command8);
+  EXPECT_EQ(e["txt1"], "0007");
+  EXPECT_EQ(e["FrmCode.Text29"], "0007");
+  EXPECT_EQ(e["TXTSPE"], "70007Z 24019G29KT 200V280 8000 FEW020 SCT030 BKN040 25/12 Q1015=");
+  EXPECT_EQ(e.ws.SpeciLine1, "70007Z 24019G29KT 200V280 8000 FEW020 SCT030");
+  EXPECT_EQ(e.ws.SpeciLine2, "BKN040 25/12 Q1015=");
+  EXPECT_EQ(e["FrmCode.Text30"], "A2997");
+  EXPECT_EQ(e.ws.SPECI_coded, 1);
+  EXPECT_EQ(e.ws.METAR_coded, 0);
+}
+
+TEST(SpeciCoder, KeepsGroupsOfAnEarlierReportAndDoesNotMerge) {
+  Entry e(kSpeci, {{"txt1", "1234"}, {"Text6", "2"}, {"Combo1", "CB     3"}, {"Text8", "3"}, {"Combo2", "CB     9"},
+                   {"Text9", "600"}, {"Text27", ""}, {"Text29", ""}, {"FrmCode.Text55", "VV005"},
+                   {"FrmCode.Text61", "10/05"}});
+  const auto messages = e.click(e.ws.FrmKashf.Command8);
+  EXPECT_TRUE(messages.empty());
+  EXPECT_EQ(e["FrmCode.Text56"], "FEW020CB");
+  EXPECT_EQ(e["FrmCode.Text57"], "SCT020CB");
+  EXPECT_EQ(e["TXTSPE"], "71234Z 24008KT 8000 VV005 FEW020CB SCT020CB 10/05 Q1015=");
+}
+
+TEST(MetarCoder, SkyGroups) {
+  const struct {
+    const char* name;
+    Fields changes;
+    const char* text;
+  } table[] = {
+      {"CAVOK with a clear sky", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"},
+                                  {"Text4", "10000"}, {"FrmDisplayKashf.TXTWW1", " c"}},
+       " 24008KT CAVOK 25/12 Q1015="},
+      {"CAVOK above the obstacles", {{"Text7", "1800"}, {"Text4", "12000"}, {"Text2", "CALM"}},
+       " 00000KT CAVOK 25/12 Q1015="},
+      {"SKC below 10 km", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}, {"Text4", "9999"},
+                           {"CMbMAX", "NE"}},
+       " 24008KT 9000NE SKC 25/12 Q1015="},
+      {"NSC above the obstacles", {{"Text7", "1800"}}, " 24008KT 8000 NSC 25/12 Q1015="},
+      {"TCU keeps the cloud groups", {{"Text7", "1800"}, {"Combo1", "CU     2"}, {"Text4", "12000"}},
+       " 24008KT 9999 SCT060TCU 25/12 Q1015="},
+      {"sky obscured", {{"Text5", "9"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}, {"Text12", "90"},
+                        {"Text4", "400"}, {"TxtVM", "350"}, {"Text26", "5500"}, {"CMbMIN", "W"}},
+       " 24008KT 0350 5000W VV003 25/12 Q1015="},
+  };
+  for (const auto& row : table) {
+    Entry e(kMetar, row.changes);
+    const auto messages = e.click(e.ws.FrmKashf.Command4);
+    EXPECT_EQ(e["TXTMET"], row.text) << row.name;
+    EXPECT_TRUE(messages.empty()) << row.name << ": " << (messages.empty() ? "" : messages.front());
+  }
+}
+
+TEST(MetarCoder, ConvectiveLayersAtOneHeightMergeWithAWordOnTooMuchCloud) {
+  Entry e(kMetar, {{"Text5", "8"}, {"Text6", "5"}, {"Combo1", "CB     3"}, {"Text8", "4"}, {"Combo2", "CB     9"},
+                   {"Text9", "600"}, {"Text10", "7"}, {"Combo3", "SC     5"}, {"Text11", "1200"}});
+  const auto messages = e.click(e.ws.FrmKashf.Command4);
+  ASSERT_EQ(messages.size(), 1u);
+  EXPECT_EQ(messages[0], "box: مجموع ابر هاي دو لايه بيش ار 8/8 ميباشد");
+  EXPECT_EQ(e["TXTMET"], " 24008KT 8000 020CB BKN040 25/12 Q1015=");
+}
+
+TEST(MetarCoder, RefusalsEndTheRun) {
+  const struct {
+    const char* name;
+    Fields changes;
+    const char* words;
+    const char* focus;  // "" when the focus is not moved
+  } table[] = {
+      {"no cloud amount", {{"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}}, "FrmERR: لطفا وضعيت ابر ناكي را مشخص نمـائيـــد",
+       "FrmKashf.Text6"},
+      {"CAVOK against the weather", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"},
+                                     {"Text4", "10000"}, {"FrmDisplayKashf.TXTWW1", ""}},
+       "FrmERR: گزارش شده با هواي حاضر مغايرت دارد CAVOK", ""},
+      {"temperature no number", {{"Text27", "2a"}}, "FrmERR: Type mismatch: temperature = \"2a\"", ""},
+      {"speed no number", {{"Text3", ""}}, "FrmERR: Type mismatch: FF = \"\"", ""},
+      {"hour missing", {{"Text1", ""}}, "FrmERR: Type mismatch: UTC = \"\"", ""},
+      {"QNH too large", {{"Text19", "1E999"}}, "FrmERR: Overflow: QNH = \"1E999\"", ""},
+  };
+  for (const auto& row : table) {
+    Entry e(kMetar, row.changes);
+    const auto messages = e.click(e.ws.FrmKashf.Command4);
+    ASSERT_FALSE(messages.empty()) << row.name;
+    EXPECT_EQ(messages.back(), row.words) << row.name;
+    EXPECT_EQ(e["TXTMET"], "") << row.name;
+    if (*row.focus) {
+      EXPECT_EQ(e.ws.focused()->full_name(), row.focus) << row.name;
+    }
+  }
+}
+
+TEST(MetarCoder, FocusChecksBeforeTheClick) {
+  const struct {
+    const char* name;
+    Fields changes;
+    const char* words;
+    const char* focus;
+    bool coded;
+  } table[] = {
+      {"the same weather twice", {{"Image8", "ww-sky-bc"}, {"LabVC", "None"}},
+       "FrmERR: هر دو هواي فعلي انتخابي يكسان ميباشد", "FrmKashf.Text74", false},
+      {"a layer without amount", {{"Text8", "0"}, {"Combo2", "SC     4"}},
+       "FrmERR: مــقدار ، نــوع و يا ارتفاع ابــر  را چــك نمـائيـــد", "FrmKashf.Text8", false},
+      {"a layer without height", {{"Text8", "2"}, {"Combo2", "SC     4"}},
+       "FrmERR: مــقدار ، نــوع و يا ارتفاع ابــر را چــك نمـائيـــد", "FrmKashf.Text9", false},
+      {"a layer without type", {{"Text8", "2"}, {"Text9", "900"}},
+       "FrmERR: مــقدار ، نــوع و يا ارتفاع ابــر را چــك نمـائيـــد", "FrmKashf.Combo2", false},
+      // told, but the click goes on
+      {"no weather chosen", {{"Image10", ""}, {"FrmDisplayKashf.TXTWW1", ""}}, "FrmERR: لطفاهواي حاضر انتخاب گردد",
+       "FrmKashf.Command4", true},
+  };
+  for (const auto& row : table) {
+    Entry e(kMetar, row.changes);
+    const auto messages = e.click(e.ws.FrmKashf.Command4);
+    ASSERT_FALSE(messages.empty()) << row.name;
+    EXPECT_EQ(messages.front(), row.words) << row.name;
+    EXPECT_EQ(e.ws.focused()->full_name(), row.focus) << row.name;
+    EXPECT_EQ(e.ws.METAR_coded, row.coded ? 1 : 0) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace obsdesk
