@@ -12,16 +12,6 @@ void fill_today(Workstation&) {}
 bool cloud_height_ok(Workstation&, Control&) { return true; }
 
 void rainfall_rule(Workstation&) {}
-int present_weather_code(Workstation&) { return -1; }
-
-void open_irix_picker(Workstation&, bool) {}
-
-void open_remarks_pickers(Workstation&) {}
-
-void open_present_weather_picker(Workstation&) {}
-
-void open_ground_picker(Workstation&) {}
-
 void open_tendency_dialog(Workstation&) {}
 
 void open_past_hours_editor(Workstation&) {}

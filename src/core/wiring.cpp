@@ -18,6 +18,7 @@ namespace obsdesk {
 // coders
 
 // pickers
+void wire_pickers(Workstation& ws);
 
 // archive
 
@@ -38,6 +39,7 @@ void wire_all(Workstation& ws) {
   // coders
 
   // pickers
+  wire_pickers(ws);
 
   // archive
 

@@ -31,6 +31,7 @@
 #include "core/frm_main.h"
 #include "core/services.h"
 #include "core/small_screens.h"
+#include "pickers/boards.h"
 #include "settings/frm_option.h"
 
 namespace obsdesk {
@@ -81,6 +82,16 @@ class Workstation {
   // Screens of the coders.
 
   // Screens of the phenomenon pickers.
+  obsdesk::FrmFeali FrmFeali;
+  obsdesk::FrmGozashteh FrmGozashteh;
+  obsdesk::Frmgozashteh1 Frmgozashteh1;
+  obsdesk::FrmGozashteh2 FrmGozashteh2;
+  obsdesk::FrmBCO FrmBCO;
+  obsdesk::FrmBCOY FrmBCOY;
+  obsdesk::FrmBCOBCOY FrmBCOBCOY;
+  obsdesk::FrmZamin FrmZamin;
+  obsdesk::FrmIRIX FrmIRIX;
+  obsdesk::FrmTooltip FrmTooltip;
 
   // Screens of the archive.
 
@@ -104,6 +115,7 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+  std::string GroundCode;    // E or E' of the last state-of-ground button, kept for 4E'sss
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }
