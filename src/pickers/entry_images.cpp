@@ -85,6 +85,19 @@ void Image3_click(Workstation& ws) {
   ws.set(ws.FrmCode.Text92, std::string(kBlankGroup));
 }
 
+// A double click on a weather picture offers the sky letters for its box instead
+// of a phenomenon: the click before it has opened (or emptied) the picture's own
+// board, which makes way.
+void sky_for_picture(Workstation& ws, int select, const char* tww) {
+  ws.unload(ws.FrmFeali);
+  for (Screen* board : {static_cast<Screen*>(&ws.FrmGozashteh), static_cast<Screen*>(&ws.Frmgozashteh1),
+                        static_cast<Screen*>(&ws.FrmGozashteh2)})
+    if (board->visible) ws.hide(*board);
+  ws.WeatherBoxSelect = select;
+  if (*tww != '\0') ws.set(ws.FrmKashf.TWW, tww);
+  open_sky_board(ws, ws.FrmBCOBCOY);
+}
+
 void wire_entry_images(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Image1.on(Event::Click, Image1_click);
@@ -95,6 +108,15 @@ void wire_entry_images(Workstation& ws) {
   k.Image2.on(Event::Click, Image2_click);
   k.Image9.on(Event::Click, Image9_click);
   k.Image3.on(Event::Click, Image3_click);
+  struct SkyPicture {
+    Image* image;
+    int select;
+    const char* tww;
+  };
+  for (const SkyPicture& p : {SkyPicture{&k.Image1, 1, "1"}, SkyPicture{&k.Image2, 2, "2"},
+                              SkyPicture{&k.Image9, 3, "3"}, SkyPicture{&k.Image10, 10, ""},
+                              SkyPicture{&k.Image8, 8, ""}, SkyPicture{&k.Image7, 7, ""}})
+    p.image->on(Event::DblClick, [p](Workstation& w) { sky_for_picture(w, p.select, p.tww); });
   k.Text48.on(Event::Click, [](Workstation& w) { open_irix_picker(w, false); });
 }
 

@@ -55,4 +55,16 @@ void wire_ground(Workstation& ws);
 void wire_irix(Workstation& ws);
 void wire_entry_images(Workstation& ws);
 
+// The pictures of the entry screen.
+void Image1_click(Workstation& ws);
+void Image10_click(Workstation& ws);
+void Image8_click(Workstation& ws);
+void Image4_click(Workstation& ws);
+void Image7_click(Workstation& ws);
+void Image2_click(Workstation& ws);
+void Image9_click(Workstation& ws);
+void Image3_click(Workstation& ws);
+// A double click: the sky letters for the picture's box.
+void sky_for_picture(Workstation& ws, int select, const char* tww);
+
 }  // namespace obsdesk

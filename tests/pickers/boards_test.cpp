@@ -343,5 +343,29 @@ TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
   EXPECT_EQ(ws.GroundCode, "");
 }
 
+TEST(EntryPictures, ADoubleClickOffersTheSkyLetters) {
+  struct Case {
+    const char* image;
+    std::string box;
+  };
+  const Case cases[] = {{"Image1", "TXTWW4"}, {"Image2", "TXTWW5"}, {"Image10", "TXTWW1"},
+                        {"Image8", "TXTWW3"}, {"Image7", "TXTWW2"}};
+  for (const Case& c : cases) {
+    test::Station s;
+    Workstation& ws = s.open_entry();
+    FrmKashf& k = ws.FrmKashf;
+    k.Frame12.visible = k.Frame17.visible = true;
+    k.Text5.text = "9";
+    ws.dbl_click(s.at(c.image));
+    EXPECT_FALSE(ws.FrmFeali.visible) << c.image;
+    EXPECT_FALSE(ws.FrmGozashteh.visible) << c.image;
+    EXPECT_FALSE(ws.Frmgozashteh1.visible) << c.image;
+    ASSERT_TRUE(ws.FrmBCOBCOY.visible) << c.image;
+    ws.click(*ws.FrmBCOBCOY.letter("o"));
+    EXPECT_EQ(s.at("FrmDisplayKashf." + c.box).text, " o") << c.image;
+    EXPECT_EQ(s.at(c.image).text, "sky_o") << c.image;
+  }
+}
+
 }  // namespace
 }  // namespace obsdesk
