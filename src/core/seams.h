@@ -1,6 +1,5 @@
 // Where one topic hands over to a rule or screen of another. Each is one
-// function owned by one topic; until that topic is built it does the least
-// (nothing, or the answer that lets everything pass).
+// function, defined beside the rules of the topic that owns it.
 #pragma once
 
 #include <functional>

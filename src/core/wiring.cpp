@@ -30,6 +30,7 @@ void wire_synop(Workstation& ws);
 void wire_metar(Workstation& ws);
 
 // pickers
+void wire_pickers(Workstation& ws);
 
 // archive
 
@@ -62,6 +63,7 @@ void wire_all(Workstation& ws) {
   wire_metar(ws);
 
   // pickers
+  wire_pickers(ws);
 
   // archive
 

@@ -59,6 +59,9 @@ void Workstation::register_screens() {
   // coders
 
   // pickers
+  screens_.insert(screens_.end(), std::initializer_list<Screen*>{&FrmFeali, &FrmGozashteh, &Frmgozashteh1,
+                                                                  &FrmGozashteh2, &FrmBCO, &FrmBCOY, &FrmBCOBCOY,
+                                                                  &FrmZamin, &FrmIRIX, &FrmTooltip});
 
   // archive
 

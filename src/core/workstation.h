@@ -37,6 +37,7 @@
 #include "core/small_screens.h"
 #include "physics/barometer.h"
 #include "physics/tendency.h"
+#include "pickers/boards.h"
 #include "settings/formula_constants.h"
 #include "settings/frm_option.h"
 
@@ -93,6 +94,16 @@ class Workstation {
   // Screens of the coders.
 
   // Screens of the phenomenon pickers.
+  obsdesk::FrmFeali FrmFeali;
+  obsdesk::FrmGozashteh FrmGozashteh;
+  obsdesk::Frmgozashteh1 Frmgozashteh1;
+  obsdesk::FrmGozashteh2 FrmGozashteh2;
+  obsdesk::FrmBCO FrmBCO;
+  obsdesk::FrmBCOY FrmBCOY;
+  obsdesk::FrmBCOBCOY FrmBCOBCOY;
+  obsdesk::FrmZamin FrmZamin;
+  obsdesk::FrmIRIX FrmIRIX;
+  obsdesk::FrmTooltip FrmTooltip;
 
   // Screens of the archive.
 
@@ -122,7 +133,7 @@ class Workstation {
   // from call to call, and the relative humidity last typed in Text31.
   PressureResults pressure;
   double typed_RH = 0;
-  std::string GroundCode;    // figure of the state of ground chosen on its board (E or E')
+  std::string GroundCode;    // E or E' of the last state-of-ground button, kept for 4E'sss
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }

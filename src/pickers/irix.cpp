@@ -1,0 +1,85 @@
+// FrmIRIX: the indicators iR (rain reported where) and iX (station kind and
+// weather reported), chosen by their words or typed as figures.
+#include <algorithm>
+#include <string>
+
+#include "core/seams.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+#include "pickers/board_tables.h"
+#include "pickers/pickers.h"
+
+namespace obsdesk {
+
+namespace {
+
+constexpr std::string_view kIrRange = "عــــدد 1  تا 4 وارد گـــردد   ";
+constexpr std::string_view kIxRange = "عــــدد 1  تا 6 وارد گـــردد   ";
+constexpr std::string_view kIrFirst = "NOTE: مقدار دهي نشده است  IR";
+
+// The figure 1 to count of a typed box, 0 when it is none.
+int figure(const std::string& text, int count) {
+  const std::string t = trim(text);
+  if (t.size() != 1 || !is_digit(t)) return 0;
+  const int n = t[0] - '0';
+  return n >= 1 && n <= count ? n : 0;
+}
+
+// The place of a list's text, 1 based; 0 when the text is no item.
+int item_number(const Control& list) {
+  const auto it = std::find(list.items.begin(), list.items.end(), list.text);
+  return it == list.items.end() ? 0 : static_cast<int>(it - list.items.begin()) + 1;
+}
+
+void typed(Workstation& ws, Control& box, Control& list, std::string_view refusal) {
+  if (box.text.empty()) return;
+  const int n = figure(box.text, static_cast<int>(list.items.size()));
+  if (n == 0) {
+    ws.error(std::string(refusal));
+    ws.set(box, "");
+    return;
+  }
+  ws.set(list, list.items[n - 1]);
+}
+
+}  // namespace
+
+void TXTIR_change(Workstation& ws) { typed(ws, ws.FrmIRIX.TXTIR, ws.FrmIRIX.Combo1, kIrRange); }
+
+void TXTIX_change(Workstation& ws) { typed(ws, ws.FrmIRIX.TXTIX, ws.FrmIRIX.Combo3, kIxRange); }
+
+void FrmIRIX_Combo1_change(Workstation& ws) {
+  const int n = item_number(ws.FrmIRIX.Combo1);
+  if (n > 0) ws.set(ws.FrmIRIX.TXTIR, std::to_string(n));
+}
+
+// iX comes after iR; with both, IRIX of the entry screen is set and the board closes.
+void FrmIRIX_Combo3_change(Workstation& ws) {
+  FrmIRIX& f = ws.FrmIRIX;
+  const int n = item_number(f.Combo3);
+  if (n == 0) return;
+  if (trim(f.TXTIR.text).empty()) {
+    ws.error(std::string(kIrFirst));
+    ws.set(f.Combo3, "");  // the choice does not stand, so it can be made again
+    return;
+  }
+  ws.set(f.TXTIX, std::to_string(n));
+  ws.set(ws.FrmKashf.Text48, trim(f.TXTIR.text) + trim(f.TXTIX.text));
+  ws.hide(f);
+}
+
+void open_irix_picker(Workstation& ws, bool clear_ir) {
+  if (clear_ir) ws.set(ws.FrmIRIX.TXTIR, "");
+  ws.show(ws.FrmIRIX);
+}
+
+void wire_irix(Workstation& ws) {
+  FrmIRIX& f = ws.FrmIRIX;
+  f.TXTIR.on(Event::Change, TXTIR_change);
+  f.TXTIX.on(Event::Change, TXTIX_change);
+  f.Combo1.on(Event::Change, FrmIRIX_Combo1_change);
+  f.Combo3.on(Event::Change, FrmIRIX_Combo3_change);
+  f.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmIRIX); });
+}
+
+}  // namespace obsdesk
