@@ -20,6 +20,7 @@ namespace obsdesk {
 // pickers
 
 // archive
+void wire_save(Workstation& ws);
 
 // Every topic binds its own rules; this is the one list of them.
 void wire_all(Workstation& ws) {
@@ -40,6 +41,7 @@ void wire_all(Workstation& ws) {
   // pickers
 
   // archive
+  wire_save(ws);
 
 }
 
