@@ -208,6 +208,8 @@ void wire_browser(Workstation& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   b.on(ScreenEvent::Load, FrmDisplayKashf_load);
   b.Image11.on(Event::Click, [](Workstation& w) {
+    // The delete comes back with the return from the start screen.
+    w.FrmDisplayKashf.Command1.visible = !w.FrmDisplayKashf.save.enabled;
     w.hide(w.FrmDisplayKashf);
     w.show(w.FrmMain);
   });
