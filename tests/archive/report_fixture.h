@@ -41,6 +41,7 @@ inline void new_report(Workstation& ws, const Obs& o) {
   k.Text6.text = "3";
   k.Combo1.text = "CU     1";
   k.Text7.text = "900";
+  k.Text9.text = "";
   k.Combo2.text = "       0";
   k.Combo3.text = "      0";
   k.Combo4.text = "      0";
