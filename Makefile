@@ -3,6 +3,7 @@
 #   make test           build with warnings as errors and run every test
 #   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench          build and run the benchmarks
+#   make fuzz           a million observer actions under the sanitizers (FUZZ_EVENTS=N)
 # Each installs the Debian packages it needs when they are missing.
 
 SHELL := /bin/bash
@@ -12,7 +13,7 @@ PACKAGES := g++ cmake ninja-build pkg-config libsqlite3-dev libgtest-dev libgmoc
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOBSDESK_WERROR=ON
 
-.PHONY: deps configure run test test-sanitize bench clean
+.PHONY: deps configure run test test-sanitize fuzz bench clean
 
 deps:
 	@missing=""; \
@@ -40,6 +41,13 @@ test-sanitize: deps
 	  -DOBSDESK_SANITIZE=ON -DOBSDESK_BENCH=OFF
 	cmake --build build-sanitize -j $(JOBS)
 	cd build-sanitize && ctest --output-on-failure -j $(JOBS) --timeout 3600
+
+FUZZ_EVENTS ?= 1000000
+fuzz: deps
+	cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DOBSDESK_WERROR=ON \
+	  -DOBSDESK_SANITIZE=ON -DOBSDESK_BENCH=OFF
+	cmake --build build-sanitize --target obsdesk_fuzz -j $(JOBS)
+	build-sanitize/tests/obsdesk_fuzz --seed 1 --events $(FUZZ_EVENTS)
 
 bench: configure
 	cmake --build $(BUILD) --target obsdesk_bench -j $(JOBS)

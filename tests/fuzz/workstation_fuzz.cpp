@@ -1,0 +1,224 @@
+// A seeded storm of what an observer can do: random clicks, key strokes, typed
+// texts, list choices, answers and clock changes over every control of every
+// screen, in sequences on a fresh bank each. After every sequence every database
+// of the bank must pass SQLite's integrity check. A sequence is reproduced by its
+// number, and --print writes it as a scenario for the runner, so a fault it finds
+// becomes a regression scenario.
+//
+//   obsdesk_fuzz [--seed S] [--events N] [--per-sequence M] [--sequence K --print]
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <random>
+#include <sstream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "bank/sqlite.h"
+#include "cli/runner.h"
+#include "core/workstation.h"
+
+namespace fs = std::filesystem;
+using namespace obsdesk;
+
+namespace {
+
+struct Options {
+  std::uint64_t seed = 1;
+  long events = 100000;
+  int per_sequence = 2000;
+  long only_sequence = -1;
+  bool print = false;
+};
+
+// Texts an observer types, on purpose or by a slip: good values, the system's
+// "not observed" marks, limits, junk, Persian and Arabic figures, long runs.
+const std::vector<std::string> kTexts = {
+    "", "0", "00", "1", "5", "9", "10", "12", "18", "21", "24", "25", "30", "45", "99", "100",
+    "360", "800", "1000", "1013.2", "850.4", "9999", "10000", "99999", "-1", "-12.5", "-0.4",
+    "0.5", "4.55", ".", "..", "/", "//", "///", "-", "+", "TR", "tr", "VRB", "VRB ", "CAVOK",
+    " ", "  ", "a", "Z", "ب", "ه", "٣", "۵", "1e308", "99999999999999999999", "'", "\"", "%",
+    "*", "_", "\\", "?", "12a", "0/", "/0", "3.14159", "0000000", "SYNOP    ", "METAR    ",
+    "SYN & MET", "METAR(30')", "SPECI    ", "1400", "06", "03", "15"};
+
+std::string random_text(std::mt19937_64& rng) {
+  std::uniform_int_distribution<int> pick(0, 9);
+  if (pick(rng) < 7) return kTexts[rng() % kTexts.size()];
+  // A run of random figures and signs.
+  static const std::string alphabet = "0123456789./-+ ";
+  std::string s;
+  const int n = static_cast<int>(rng() % 9);
+  for (int i = 0; i < n; ++i) s += alphabet[rng() % alphabet.size()];
+  return s;
+}
+
+std::string quoted(const std::string& w) {
+  std::string out = "\"";
+  for (char c : w) {
+    if (c == '"' || c == '\\') out += '\\';
+    out += c;
+  }
+  return out + "\"";
+}
+
+std::string as_line(const std::vector<std::string>& words) {
+  std::string line;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    if (i) line += ' ';
+    line += i == 0 ? words[i] : quoted(words[i]);
+  }
+  return line;
+}
+
+// One command, chosen by weight; controls are mostly taken from the screen the
+// observer is looking at, sometimes from anywhere.
+std::vector<std::string> next_command(Workstation& ws, std::mt19937_64& rng) {
+  std::vector<Control*> pool;
+  Screen* active = ws.active_screen();
+  if (active != nullptr && rng() % 5 != 0) pool = active->controls();
+  if (pool.empty()) {
+    const auto& screens = ws.screens();
+    Screen* s = screens[rng() % screens.size()];
+    pool = s->controls();
+  }
+  Control* c = pool.empty() ? nullptr : pool[rng() % pool.size()];
+  const std::string name = c ? c->full_name() : "FrmKashf.Text1";
+
+  const int roll = static_cast<int>(rng() % 100);
+  if (roll < 28) return {"type", name, random_text(rng)};
+  if (roll < 48) return {"enter"};
+  if (roll < 66) return {"click", name};
+  if (roll < 74) {
+    std::string item = c && !c->items.empty() ? c->items[rng() % c->items.size()] : random_text(rng);
+    return {"choose", name, item};
+  }
+  if (roll < 79) return {"set", name, random_text(rng)};
+  if (roll < 84) return {"focus", name};
+  if (roll < 87) return {"dblclick", name};
+  if (roll < 90) {
+    static const std::vector<std::string> keys = {"\r", "0", "5", "/", "-", ".", "a", "\b"};
+    return {"key", name, keys[rng() % keys.size()]};
+  }
+  if (roll < 98) return {"answer", rng() % 3 ? "yes" : "no"};
+  // The clock: any time of a few years, month ends and 23 h more often.
+  const int year = 2019 + static_cast<int>(rng() % 8);
+  const int month = 1 + static_cast<int>(rng() % 12);
+  const int day = rng() % 3 ? 1 + static_cast<int>(rng() % 28) : 28 + static_cast<int>(rng() % 4);
+  const int hour = rng() % 3 ? static_cast<int>(rng() % 24) : 23;
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%04d-%02d-%02d %02d:%02d", year, month, day, hour,
+                static_cast<int>(rng() % 60));
+  return {"clock", buf};
+}
+
+// Every database file of the bank passes SQLite's integrity check.
+bool bank_sound(const fs::path& root, std::string& why) {
+  std::error_code ec;
+  for (fs::recursive_directory_iterator it(root, ec), end; it != end; it.increment(ec)) {
+    if (ec) break;
+    if (!it->is_regular_file()) continue;
+    std::string ext = it->path().extension().string();
+    for (char& ch : ext) ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
+    if (ext != ".MDB") continue;
+    try {
+      Database db(it->path(), Database::Mode::ReadWrite);
+      Statement st = db.prepare("PRAGMA integrity_check");
+      if (!st.step() || st.text(0) != "ok") {
+        why = it->path().string() + ": integrity check failed";
+        return false;
+      }
+    } catch (const std::exception& e) {
+      why = it->path().string() + ": " + e.what();
+      return false;
+    }
+  }
+  return true;
+}
+
+// Runs one sequence; false with the reason when the workstation broke.
+bool run_sequence(const Options& o, long k, const fs::path& root, long& events, std::string& why) {
+  std::mt19937_64 rng(o.seed * 1000003ULL + static_cast<std::uint64_t>(k));
+  fs::remove_all(root);
+  std::ostringstream sink;
+  std::vector<std::string> script;
+  {
+    Runner runner(root, sink);
+    auto perform = [&](const std::vector<std::string>& words) -> bool {
+      script.push_back(as_line(words));
+      if (o.print) std::cout << script.back() << "\n";
+      try {
+        runner.execute(words, nullptr);
+      } catch (const ScriptError&) {
+      } catch (const UsageError&) {
+        // A control that cannot be reached or an item not in the list: refused, as
+        // the screen itself would refuse it.
+      } catch (const std::exception& e) {
+        why = std::string("after \"") + script.back() + "\": " + e.what();
+        return false;
+      }
+      sink.str("");
+      return true;
+    };
+    if (!perform({"clock", "2024-03-20 05:40"}) || !perform({"start"})) return false;
+    for (int i = 0; i < o.per_sequence; ++i, ++events) {
+      Workstation* ws = runner.workstation();
+      if (ws == nullptr || ws->ended()) {
+        if (!perform({"start"})) return false;
+        continue;
+      }
+      if (!perform(next_command(*ws, rng))) return false;
+    }
+  }
+  return bank_sound(root, why);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options o;
+  for (int i = 1; i < argc; ++i) {
+    const std::string a = argv[i];
+    auto value = [&]() -> long {
+      if (i + 1 >= argc) {
+        std::cerr << "obsdesk_fuzz: " << a << " needs a value\n";
+        std::exit(2);
+      }
+      return std::strtol(argv[++i], nullptr, 10);
+    };
+    if (a == "--seed") o.seed = static_cast<std::uint64_t>(value());
+    else if (a == "--events") o.events = value();
+    else if (a == "--per-sequence") o.per_sequence = static_cast<int>(value());
+    else if (a == "--sequence") o.only_sequence = value();
+    else if (a == "--print") o.print = true;
+    else {
+      std::cerr << "usage: obsdesk_fuzz [--seed S] [--events N] [--per-sequence M] [--sequence K --print]\n";
+      return 2;
+    }
+  }
+  if (o.per_sequence < 1) o.per_sequence = 1;
+  // A bank in memory when the machine offers one: the bank syncs every write.
+  std::error_code shm_ec;
+  const fs::path base = fs::is_directory("/dev/shm", shm_ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
+  const fs::path root = base / ("obsdesk-fuzz-" + std::to_string(::getpid()));
+  long events = 0;
+  const long sequences = o.only_sequence >= 0 ? 1 : (o.events + o.per_sequence - 1) / o.per_sequence;
+  int status = 0;
+  for (long n = 0; n < sequences; ++n) {
+    const long k = o.only_sequence >= 0 ? o.only_sequence : n;
+    std::string why;
+    if (!run_sequence(o, k, root, events, why)) {
+      std::cerr << "obsdesk_fuzz: seed " << o.seed << " sequence " << k << ": " << why
+                << "\n  reproduce: obsdesk_fuzz --seed " << o.seed << " --per-sequence " << o.per_sequence
+                << " --sequence " << k << " --print\n";
+      status = 1;
+      break;
+    }
+  }
+  std::error_code ec;
+  fs::remove_all(root, ec);
+  if (!o.print) std::cout << "obsdesk_fuzz: " << events << " events in " << sequences << " sequences, seed " << o.seed
+                          << (status ? ": FAILED" : ": no fault") << "\n";
+  return status;
+}
