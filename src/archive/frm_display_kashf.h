@@ -3,6 +3,9 @@
 // key text, deletes a row and starts a new report.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "bank/data_control.h"
 #include "core/control.h"
 
@@ -159,6 +162,8 @@ struct FrmDisplayKashf : Screen {
   TextBox txtpathnamebank{*this, "txtpathnamebank"};
 
   DataControl KASHF{"KASHF"};
+  // The row kept by newW and the moves, to come back to; none on an empty table.
+  std::optional<std::int64_t> kept_row;
 };
 
 }  // namespace obsdesk

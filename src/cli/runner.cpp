@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "bank/sqlite.h"
+#include "cli/bank_files.h"
 #include "core/program.h"
 #include "core/workstation.h"
 
@@ -190,6 +191,9 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
   } else if (cmd == "dump") {
     need(w, 2, 2, "dump SCREEN");
     out_ << dump(w[1]) << "\n";
+  } else if (cmd == "file") {
+    need(w, 2, 2, "file PATH");
+    print_bank_files(bank_root_, w[1], out_);
   } else if (cmd == "expect") {
     need(w, 3, 3, "expect CONTROL TEXT");
     const std::string got = value_of(w[1]);

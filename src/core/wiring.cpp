@@ -33,6 +33,7 @@ void wire_metar(Workstation& ws);
 void wire_pickers(Workstation& ws);
 
 // archive
+void wire_save(Workstation& ws);
 
 // Every topic binds its own rules; this is the one list of them.
 void wire_all(Workstation& ws) {
@@ -66,6 +67,7 @@ void wire_all(Workstation& ws) {
   wire_pickers(ws);
 
   // archive
+  wire_save(ws);
 
 }
 

@@ -1,0 +1,292 @@
+#include "archive/save.h"
+
+#include <stdexcept>
+
+#include "archive/browser.h"
+#include "archive/bulletins.h"
+#include "archive/text_archive.h"
+#include "core/key_text.h"
+#include "core/record.h"
+#include "core/seams.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+namespace {
+
+std::string two(long n) { return pad_left(std::to_string(n), 2); }
+long number(const std::string& text) { return static_cast<long>(val(text)); }
+
+bool one_of(long v, std::initializer_list<long> set) {
+  for (long s : set)
+    if (v == s) return true;
+  return false;
+}
+
+// ---- Confirmation, step by step ------------------------------------------------
+
+// Step 1: both leap flags by the Gregorian rule, the Persian year too.
+void leap_flags(Workstation& ws) {
+  CalendarState& c = ws.calendar;
+  c.GLeapThis = 0;
+  c.SLeapA = 0;
+  c.GLeapThis = gregorian_leap(static_cast<int>(val(ws.FrmKashf.TXTYEARmi.text))) ? 1 : 0;
+  c.SLeapA = gregorian_leap(static_cast<int>(val(ws.FrmKashf.TXTYEARsh.text))) ? 1 : 0;
+}
+
+void put_date(Workstation& ws, TextBox& day, TextBox& month, TextBox& year, const DateTexts& d) {
+  ws.set(day, d.day);
+  ws.set(month, d.month);
+  ws.set(year, d.year);
+}
+
+// Step 2: a date one day past its month's end, Gregorian first.
+void repair_dates(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  put_date(ws, k.TXTDAYmi, k.TXTMONTHMI, k.TXTYEARmi,
+           repair_gregorian({k.TXTDAYmi.text, k.TXTMONTHMI.text, k.TXTYEARmi.text}, ws.calendar.GLeapThis == 1));
+  put_date(ws, k.TXTDAYsh, k.TXTMONTHSH, k.TXTYEARsh,
+           repair_persian({k.TXTDAYsh.text, k.TXTMONTHSH.text, k.TXTYEARsh.text}, ws.calendar.SLeapA == 1));
+  rebuild_key_text(ws);
+}
+
+// Step 4: the past-hours row takes this report's temperature and QFE at its
+// main hour and the working copies at the others; the rain comes from the
+// working copies alone.
+void roll_past_hours(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  FrmMain& m = ws.FrmMain;
+  const double hour = val(k.Text1.text);
+  const int index = hour == static_cast<int>(hour) ? main_hour_index(static_cast<int>(hour)) : -1;
+  if (index < 0) return;
+  for (std::size_t i = 0; i < 8; ++i) {
+    const bool now = static_cast<int>(i) == index;
+    ws.set(*m.TB[i], now ? k.Text27.text : m.T[i]->text);
+    ws.set(*m.qfeB[i], now ? k.Text18.text : m.qfe[i]->text);
+    ws.set(*m.rainB[i], m.rain[i]->text);
+  }
+}
+
+// The past-hours row as its bound boxes now show it, kept in PAST.mdb.
+void keep_past_row(Workstation& ws) {
+  DataControl& past = ws.FrmMain.PAST;
+  Recordset& rs = past.rs;
+  if (!rs.is_open() || rs.eof() || rs.bof()) return;
+  rs.edit();
+  past.update();
+}
+
+// Step 5: the SCDATA lines by station kind, report kind and hour.
+void append_scdata(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  const std::string folder = station_folder(ws);
+  const std::string nnn = station_nnn(ws.FrmOption.NUMCOD.text);
+  const ScdataNames n = scdata_names(folder, nnn, key_text(k));
+  ws.set(k.txtFileNameDAY, n.day);
+  ws.set(k.txtFileNamemonth, n.month);
+  ws.set(k.txtfilenametotal, n.total);
+  ws.set(k.txtFileNamemonthG, n.monthG);
+  ws.set(k.TXTFILENAMETOTALG, n.totalG);
+
+  const std::string s = ws.FrmCode.TXTSCDATA.text;
+  const std::string g = ws.FrmCode.TXTgolbad.text;
+  const std::string kind = k.Combo5.text;
+  const bool twelve_hour = ws.FrmOption.Combo1.text == kStation12;
+  const long hour = number(k.Text1.text);
+  auto to = [&](const std::string& name, const std::string& line) { append_line(bank_file(ws, name), line); };
+
+  if (twelve_hour && kind == kSpeci) return;
+  if (twelve_hour && one_of(hour, {18, 21, 0})) {
+    // No daily record at these hours of a 12-hour station: no IT line.
+    to(n.monthG, g);
+    to(n.totalG, g);
+    to(n.total, s);
+    to(n.month, s);
+    ws.set(ws.FrmMain.txtutcpastb, k.Text1.text);
+    return;
+  }
+  if (!is_synop_kind(kind)) return;
+  ws.set(ws.FrmMain.txtutcpastb, k.Text1.text);
+  to(n.monthG, g);
+  to(n.totalG, g);
+  const ItDay day = it_day(k.TXTYEARmi.text, k.TXTMONTHMI.text, k.TXTDAYmi.text, val(k.Text1.text));
+  to(it_file_name(folder, nnn, day), it_line(s));
+  to(n.month, s);
+  to(n.total, s);
+}
+
+// The boxes copied by name from the entry screen into the browser.
+const std::vector<std::string>& copied_by_name() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> v = {"txt1"};
+    auto range = [&v](int from, int to) {
+      for (int i = from; i <= to; ++i) v.push_back("Text" + std::to_string(i));
+    };
+    range(1, 40);
+    range(44, 44);
+    range(48, 51);
+    range(53, 53);
+    range(59, 60);
+    range(63, 74);
+    for (const char* n : {"TxtVM", "Txttond", "Txtmaxwind", "Txttimesun", "txtt12", "txtmin", "txtSYN", "TXTMET",
+                          "TXTSPE", "txtpast6", "CMbMAX", "CMbMIN", "Txt_NLC", "TXT_QNT", "TXTYEARmi", "TXTMONTHMI",
+                          "TXTDAYmi", "TXTYEARsh", "TXTMONTHSH", "TXTDAYsh"})
+      v.emplace_back(n);
+    return v;
+  }();
+  return names;
+}
+
+Control* exact(Screen& s, const std::string& name) {
+  Control* c = s.find(name);
+  return c != nullptr && c->name == name ? c : nullptr;
+}
+
+// Step 6: every value into the browser's row; the lists go to their columns'
+// boxes, the key text is composed anew, and the Combo3 type stands last in
+// Text42.
+void copy_into_browser(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  FrmDisplayKashf& b = ws.FrmDisplayKashf;
+  ws.show(b);
+  for (const std::string& name : copied_by_name()) {
+    Control* from = exact(k, name);
+    Control* to = exact(b, name);
+    if (from != nullptr && to != nullptr) ws.set(*to, from->text);
+  }
+  ws.set(b.TXTYYMMDDTT, ws.FrmCode.TXTYYGG.text);
+  ws.set(b.Text45, k.Combo1.text);
+  ws.set(b.Text43, k.Combo2.text);
+  ws.set(b.Text46, k.Combo4.text);
+  ws.set(b.Text47, k.Combo6.text);
+  ws.set(b.Text54, k.Combo9.text);
+  ws.set(b.TXTSEL, k.Combo5.text);
+  ws.set(b.TXTNAM, k.Combo7.text);
+  ws.set(b.TXTSCDATA, ws.FrmCode.TXTSCDATA.text);
+  ws.set(b.TXTYYMMDDTT, key_text(k));
+  ws.set(b.Text42, k.Combo3.text);
+  if (len(b.Text20.text) == 4) ws.set(b.Text20, b.Text20.text + "0");  // "29.9" is kept as "29.90"
+}
+
+// Step 7: each value left-aligned in its stored width. A value wider than its
+// field stops the confirmation here; the boxes after it stay as they are.
+void pad_browser(Workstation& ws) {
+  FrmDisplayKashf& b = ws.FrmDisplayKashf;
+  auto pad = [&](std::string_view name, int width) {
+    Control* c = exact(b, std::string(name));
+    if (c == nullptr || width <= 0) return;
+    const std::size_t n = len(c->text);
+    const auto w = static_cast<std::size_t>(width);
+    if (n > w)
+      throw std::runtime_error("Invalid procedure call or argument: " + std::string(name) + " holds " +
+                               std::to_string(n) + " characters, its field " + std::to_string(w));
+    if (n != w) ws.set(*c, pad_right(c->text, w));
+  };
+  for (const RecordField& f : kashf_record_fields()) pad(f.box, f.width);
+  pad("Text9", 4);  // the second layer's height is stored padded, though not in the record
+}
+
+// Step 8: the entry screen closes and the code panel goes back to blank groups.
+void close_entry(Workstation& ws) {
+  ws.unload(ws.FrmKashf);
+  FrmCode& c = ws.FrmCode;
+  for (Control* box : Controls{&c.TXTUTC, &c.TXTYYGG, &c.TXTAUTO, &c.txtdddff, &c.TXTDNDX, &c.TXTVVVv, &c.TXTVXVXVXDV,
+                               &c.Text1, &c.Text2, &c.Text3, &c.Text4, &c.Text5, &c.Text47, &c.TXTSKC, &c.Text55,
+                               &c.Text56, &c.Text57, &c.Text58, &c.Text59, &c.Text60, &c.Text61})
+    ws.set(*box, "");
+  ws.set(c.Text75, "  ");
+  ws.set(c.Text103, "   ");
+  for (Control* box :
+       Controls{&c.Text41, &c.Text42, &c.Text43, &c.Text44, &c.Text45, &c.Text46, &c.Text76, &c.Text77, &c.Text78,
+                &c.Text79, &c.Text80, &c.Text81, &c.Text82, &c.Text83, &c.Text84, &c.Text85, &c.Text86, &c.Text87,
+                &c.Text89, &c.Text90, &c.Text91, &c.Text92, &c.Text93, &c.Text94, &c.Text95, &c.Text96, &c.Text97,
+                &c.Text98, &c.Text99, &c.Text100, &c.Text101, &c.Text102, &c.Text104, &c.Text105})
+    ws.set(*box, "     ");
+}
+
+// ---- Save --------------------------------------------------------------------------
+
+// The month-end rewrite of last month's file, at every 06 UTC report of January.
+void month_end(Workstation& ws, const std::string& prefix_dir, const std::string& prefix) {
+  FrmDisplayKashf& b = ws.FrmDisplayKashf;
+  if (!b.txt1.text.empty() || val(b.Text1.text) != 6 || val(b.TXTMONTHMI.text) != 1) return;
+  const std::string name = station_folder(ws) + prefix_dir + prefix + station_nnn(ws.FrmOption.NUMCOD.text) +
+                           previous_month_tag(b.TXTYYMMDDTT.text) + ".dat";
+  ws.set(b.TXTmonth, rewrite_with_line_end(bank_file(ws, name)));
+}
+
+std::string browser_value(Workstation& ws, std::string_view box) {
+  Control* c = ws.FrmDisplayKashf.find(box);
+  return c != nullptr ? c->text : std::string();
+}
+
+}  // namespace
+
+DateTexts repair_gregorian(const DateTexts& d, bool leap) {
+  const long day = number(d.day), month = number(d.month);
+  const auto next = [&] { return DateTexts{"01", two(month + 1), d.year}; };
+  if (month == 2 && !leap && day == 29) return {"01", "03", d.year};
+  if (month == 2 && leap && day == 30) return {"01", "03", d.year};
+  if (one_of(month, {1, 3, 5, 7, 8, 10}) && day == 32) return next();
+  if (month == 12 && day == 32) return {"01", "01", num(val(d.year) + 1)};
+  if (one_of(month, {4, 6, 9, 11}) && day == 31) return next();
+  return d;
+}
+
+DateTexts repair_persian(const DateTexts& d, bool leap) {
+  const long day = number(d.day), month = number(d.month);
+  if (month < 7 && day == 32) return {"01", two(month + 1), d.year};
+  if (month > 6 && month != 12 && day == 31) return {"01", two(month + 1), d.year};
+  if (month == 12 && !leap && day == 30) return {"01", "01", num(val(d.year) + 1)};
+  if (month == 12 && day == 31) return {"01", "01", num(val(d.year) + 1)};
+  return d;
+}
+
+void ZAKHIREH_click(Workstation& ws) {
+  leap_flags(ws);
+  repair_dates(ws);
+  ws.SYNOP_coded = 0;
+  ws.METAR_coded = 0;
+  try {
+    if (ws.FrmKashf.txt1.text.empty()) roll_past_hours(ws);
+    append_scdata(ws);
+  } catch (...) {
+    keep_past_row(ws);  // what was rolled forward stays, as the lines written do
+    throw;
+  }
+  keep_past_row(ws);
+  copy_into_browser(ws);
+  pad_browser(ws);
+  close_entry(ws);
+}
+
+void save_click(Workstation& ws) {
+  FrmDisplayKashf& b = ws.FrmDisplayKashf;
+  try {
+    b.KASHF.update();
+    b.KASHF.move_last(ws);
+    set_browsing(ws, true);
+    write_bulletins(ws, bulletins_for(b.TXTSEL.text, bulletin_fields(ws)));
+    month_end(ws, "\\TEXT\\SCDATA\\", "S");
+    ws.set(b.txtkashf, kashf_record([&](std::string_view box) { return browser_value(ws, box); }));
+    append_line(bank_file(ws, b.TXTFILENAMEKASHFM.text), b.txtkashf.text);
+    append_line(bank_file(ws, b.TXTFILENAMEKASHFT.text), b.txtkashf.text);
+    month_end(ws, "\\TEXT\\KASHF\\", "KASHF");
+    ws.hide(b);
+    open_copy_out(ws);
+    keep_past_row(ws);
+    ws.FrmMain.PAST.refresh(ws);
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+  }
+}
+
+void wire_save(Workstation& ws) {
+  ws.FrmKashf.ZAKHIREH.on(Event::Click, ZAKHIREH_click);
+  ws.FrmDisplayKashf.save.on(Event::Click, save_click);
+}
+
+}  // namespace obsdesk

@@ -1,0 +1,253 @@
+#include "archive/text_archive.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "bank/bank.h"
+#include "calendar/calendar.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string two(long n) { return pad_left(std::to_string(n), 2); }
+
+std::string scdata(std::string_view folder) { return std::string(folder) + "\\TEXT\\SCDATA\\"; }
+std::string kashf_dir(std::string_view folder) { return std::string(folder) + "\\TEXT\\KASHF\\"; }
+
+// A field of a line: the value left-aligned in its width; a longer value stands.
+std::string field(std::string_view value, std::size_t width) { return pad_right(value, width); }
+
+std::string groups(const std::vector<std::string>& g, std::size_t count) {
+  std::string out;
+  for (std::size_t i = 0; i < count; ++i) out += field(i < g.size() ? g[i] : std::string(), 5);
+  return out;
+}
+
+// The head shared by the S and G lines: number, YY, MM, DD, hour.
+std::string head(const SynopLineParts& p) {
+  return field(p.numcod, 5) + field(mid(p.year, 3, 2), 2) + field(p.month, 2) + field(p.day, 2) +
+         field(p.hour, 2);
+}
+
+// The runtime's words for a failed file operation, with the file's name.
+[[noreturn]] void fail(const fs::path& file, int err) {
+  const char* what = nullptr;
+  switch (err) {
+    case ENOENT:
+    case ENOTDIR: what = "Path not found"; break;
+    case EACCES:
+    case EPERM:
+    case EROFS: what = "Permission denied"; break;
+    case ENOSPC:
+    case EDQUOT: what = "Disk full"; break;
+    default: what = std::strerror(err); break;
+  }
+  throw std::runtime_error(std::string(what) + ": " + file.string());
+}
+
+void write_all(int fd, const fs::path& file, const std::string& bytes) {
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      const int err = errno;
+      ::close(fd);
+      fail(file, err);
+    }
+    done += static_cast<std::size_t>(n);
+  }
+  if (::fsync(fd) != 0) {
+    const int err = errno;
+    ::close(fd);
+    fail(file, err);
+  }
+  if (::close(fd) != 0) fail(file, errno);
+}
+
+void write_file(const fs::path& file, std::string_view line, int flags) {
+  const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0644);
+  if (fd < 0) fail(file, errno);
+  write_all(fd, file, to_cp1256(line) + "\r\n");
+}
+
+}  // namespace
+
+std::string station_folder(Workstation& ws) {
+  return trim(ws.FrmMain.LabName.text) + "\\BANK\\" + left(ws.FrmOption.TXTCOD.text, 4);
+}
+
+std::string station_nnn(std::string_view numcod) { return mid(numcod, 3, 3); }
+
+ScdataNames scdata_names(std::string_view folder, std::string_view nnn, std::string_view key) {
+  const std::string yy = mid(key, 1, 2), mm = mid(key, 3, 2), dd = mid(key, 5, 2);
+  const std::string dir = scdata(folder), n(nnn);
+  return {dir + "S" + n + yy + mm + dd + ".dat", dir + "S" + n + yy + mm + ".dat", dir + "S" + n + ".dat",
+          dir + "SG" + n + yy + mm + ".dat", dir + "SG" + n + ".dat"};
+}
+
+KashfNames kashf_names(std::string_view folder, std::string_view nnn, std::string_view key) {
+  const std::string yy = mid(key, 1, 2), mm = mid(key, 3, 2), dd = mid(key, 5, 2);
+  const std::string dir = kashf_dir(folder) + "KASHF" + std::string(nnn);
+  return {dir + yy + mm + dd + ".dat", dir + yy + mm + ".dat", dir + ".dat"};
+}
+
+ItDay it_day(std::string_view year, std::string_view month, std::string_view day, double hour) {
+  ItDay d{std::string(year), std::string(month), {}, std::string(day)};
+  if (hour > 12) {
+    long y = static_cast<long>(val(year)), m = static_cast<long>(val(month)), dd = static_cast<long>(val(day)) + 1;
+    static const int kLength[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    const long length = m == 2 ? (gregorian_leap(static_cast<int>(y)) ? 29 : 28)
+                                : (m >= 1 && m <= 12 ? kLength[m - 1] : 31);
+    if (dd > length) {
+      dd = 1;
+      if (++m > 12) {
+        m = 1;
+        d.year = num(static_cast<double>(++y));
+      }
+      d.month = two(m);
+    }
+    d.day = two(dd);
+  }
+  const long before = static_cast<long>(val(d.day)) - 1;
+  d.day_before = before >= 0 && before < 10 ? "0" + std::to_string(before) : std::to_string(before);
+  return d;
+}
+
+std::string it_file_name(std::string_view folder, std::string_view nnn, const ItDay& d) {
+  return scdata(folder) + "S" + std::string(nnn) + d.year + d.month + d.day_before + d.day + "IT.DAT";
+}
+
+std::string previous_month_tag(std::string_view key) {
+  long m = static_cast<long>(val(mid(key, 3, 2)));
+  long y = static_cast<long>(val(mid(key, 1, 2)));
+  if (m == 1) {
+    m = 12;
+    --y;
+  } else {
+    --m;
+  }
+  auto pad = [](long n) {
+    std::string t = std::to_string(n);
+    return len(t) == 1 ? "0" + t : t;
+  };
+  return pad(y) + pad(m);
+}
+
+SynopLineParts synop_line_parts(Workstation& ws) {
+  const FrmCode& c = ws.FrmCode;
+  const FrmKashf& k = ws.FrmKashf;
+  SynopLineParts p;
+  p.numcod = ws.FrmOption.NUMCOD.text;
+  p.year = k.TXTYEARmi.text;
+  p.month = k.TXTMONTHMI.text;
+  p.day = k.TXTDAYmi.text;
+  p.hour = c.Text75.text;
+  for (const TextBox* b : {&c.Text76, &c.Text77, &c.Text78, &c.Text79, &c.Text80, &c.Text81, &c.Text82,
+                           &c.Text83, &c.Text84, &c.Text85, &c.Text86, &c.Text87})
+    p.section1.push_back(b->text);
+  for (const TextBox* b : {&c.Text89, &c.Text90, &c.Text91, &c.Text92, &c.Text93}) p.section3.push_back(b->text);
+  for (const TextBox* b : {&c.Text94, &c.Text95, &c.Text96, &c.Text97, &c.Text98, &c.Text99, &c.Text100,
+                           &c.Text101, &c.Text102})
+    p.section5.push_back(b->text);
+  p.rh = c.Text103.text;
+  p.max_wind = c.Text104.text;
+  p.gust = c.Text105.text;
+  for (const TextBox* b : {&c.Text41, &c.Text42, &c.Text43, &c.Text44, &c.Text45, &c.Text46})
+    p.soil.push_back(b->text);
+  p.f32 = c.Text7.text;
+  p.dddff = c.Text34.text;
+  return p;
+}
+
+std::string s_line(const SynopLineParts& p) {
+  const double h = val(p.hour);
+  const bool soil_hour = h == 3 || h == 9 || h == 15;
+  return "2" + head(p) + groups(p.section1, 12) + "333" + groups(p.section3, 5) + groups(p.section5, 9) +
+         field(p.rh, 3) + field(p.max_wind, 5) + field(p.gust, 5) + (soil_hour ? "999" : "   ") +
+         groups(p.soil, 6) + std::string(6, ' ') + p.f32;
+}
+
+std::string g_line(const SynopLineParts& p) { return head(p) + "***" + field(p.dddff, 5) + "*******"; }
+
+std::string it_line(std::string_view s) { return "266" + mid(s, 4); }
+
+const std::vector<RecordField>& kashf_record_fields() {
+  static const std::vector<RecordField> fields = {
+      {"Text44", 50},     {"TXTSEL", 0},     {"Text48", 2},      {"TXTYYMMDDTT", 10}, {"TXTYEARmi", 4},
+      {"TXTMONTHMI", 2},  {"TXTDAYmi", 2},   {"TXTYEARsh", 4},   {"TXTMONTHSH", 2},   {"TXTDAYsh", 2},
+      {"Text1", 0},       {"Text2", 4},      {"Text40", 4},      {"Text39", 4},       {"Text3", 3},
+      {"TXTGUSTY", 3},    {"Text4", 5},      {"CMbMAX", 0},      {"Text26", 5},       {"CMbMIN", 0},
+      {"Text5", 2},       {"Text12", 4},     {"txtt12", 5},      {"Text27", 5},       {"Text28", 5},
+      {"Text13", 5},      {"Text14", 6},     {"Text38", 1},      {"Text25", 4},       {"Text6", 2},
+      {"Text45", 8},      {"Text7", 4},      {"Text8", 2},       {"Text43", 8},       {"Text10", 2},
+      {"Text42", 8},      {"Text11", 4},     {"Text49", 2},      {"Text46", 8},       {"txtmin", 4},
+      {"Text17", 2},      {"Text47", 8},     {"Text16", 4},      {"Text23", 2},       {"Text54", 8},
+      {"Text22", 4},      {"Text15", 4},     {"Text18", 6},      {"Text19", 6},       {"Text20", 5},
+      {"Text21", 6},      {"Text24", 7},     {"Text29", 5},      {"Text30", 5},       {"Text31", 4},
+      {"Text32", 5},      {"Text33", 5},     {"Text34", 4},      {"Text35", 4},       {"Text36", 4},
+      {"Text37", 4},      {"Text68", 5},     {"Text69", 3},      {"Text70", 3},       {"Text63", 5},
+      {"Text64", 5},      {"Text65", 7},     {"Text66", 4},      {"Text67", 6},       {"Text71", 5},
+      {"Text72", 5},      {"Text73", 5},     {"Txttond", 5},     {"Txttimesun", 5},   {"Txtmaxwind", 5},
+      {"Text59", 5},      {"Text60", 5},     {"Text50", 4},      {"txtpast6", 4},     {"Text51", 4},
+      {"Text53", 4},      {"TXTWW4", 7},     {"TXTWW5", 7},      {"TXTWW6", 7},       {"TXTWW1", 7},
+      {"TXTWW3", 7},      {"TXTWW2", 7},     {"TXTNAM", 30},
+  };
+  return fields;
+}
+
+std::string kashf_record(const std::function<std::string(std::string_view box)>& value) {
+  std::string out;
+  for (const RecordField& f : kashf_record_fields()) {
+    const std::string v = value(f.box);
+    out += f.width > 0 ? field(v, static_cast<std::size_t>(f.width)) : v;
+  }
+  return out + "NOTE" + value("Text74");
+}
+
+void append_line(const fs::path& file, std::string_view line) { write_file(file, line, O_APPEND); }
+
+void write_first_line(const fs::path& file, std::string_view line) { write_file(file, line, O_TRUNC); }
+
+std::string rewrite_with_line_end(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  if (!in) {
+    std::error_code ec;
+    if (!fs::exists(file, ec)) throw std::runtime_error("File not found: " + file.string());
+    fail(file, EACCES);
+  }
+  std::ostringstream whole;
+  whole << in.rdbuf();
+  in.close();
+  // Written beside and put in place in one step, so that a failure half-way
+  // leaves last month's file as it was.
+  const fs::path tmp = file.string() + ".new";
+  const int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+  if (fd < 0) fail(file, errno);
+  write_all(fd, tmp, whole.str() + "\r\n");
+  std::error_code ec;
+  fs::rename(tmp, file, ec);
+  if (ec) {
+    const int err = ec.value();
+    fs::remove(tmp, ec);
+    fail(file, err);
+  }
+  return from_cp1256(whole.str());
+}
+
+fs::path bank_file(Workstation& ws, std::string_view system_name) {
+  return resolve_bank_path(ws.bank_root(), system_name);
+}
+
+}  // namespace obsdesk

@@ -1,0 +1,107 @@
+// The text archives beside the KASHF table: \TEXT\SCDATA\ holds the coded
+// synoptic lines (S, G and IT lines), \TEXT\KASHF\ one fixed-width record per
+// saved report. Names are system paths below the bank root, as the bank paths
+// of FrmMain are. On disk every line is Windows-1256 and ends in CR LF; each
+// append opens the file, writes one line and closes it again, and the line is
+// on the disk before the call returns.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace obsdesk {
+
+class Workstation;
+struct FrmCode;
+
+// ---- Names ------------------------------------------------------------------
+
+// The station's folder of the bank: <prog>\BANK\<first four letters of TXTCOD>.
+std::string station_folder(Workstation& ws);
+// <nnn>: characters 3 to 5 of the station number, the number without its block.
+std::string station_nnn(std::string_view numcod);
+
+// The five SCDATA names, from the key text YYMMDDTT.
+struct ScdataNames {
+  std::string day, month, total, monthG, totalG;
+};
+ScdataNames scdata_names(std::string_view folder, std::string_view nnn, std::string_view key);
+
+// The three KASHF names, from the key text.
+struct KashfNames {
+  std::string day, month, total;
+};
+KashfNames kashf_names(std::string_view folder, std::string_view nnn, std::string_view key);
+
+// The climatological day of the IT file, which ends at 12 UTC: after 12 the day
+// is advanced by one (month and year carried), and the earlier day is a plain
+// subtraction from it, so the first of a month gives "00" and that is the name.
+struct ItDay {
+  std::string year, month, day_before, day;
+};
+ItDay it_day(std::string_view year, std::string_view month, std::string_view day, double hour);
+std::string it_file_name(std::string_view folder, std::string_view nnn, const ItDay& d);
+
+// Last month's file name of the month-end rewrite: month and year taken from the
+// key, stepped back one month, each left-padded with "0" to two characters
+// ("00" in January steps back to "-1", which keeps its two characters).
+std::string previous_month_tag(std::string_view key);
+
+// ---- Lines ------------------------------------------------------------------
+
+// The values the S and G lines are made of, as the code panel holds them.
+struct SynopLineParts {
+  std::string numcod, year, month, day, hour;  // year: the full Gregorian year
+  std::vector<std::string> section1;           // Text76 .. Text87, twelve groups
+  std::vector<std::string> section3;           // Text89 .. Text93, five groups
+  std::vector<std::string> section5;           // Text94 .. Text102, nine groups
+  std::string rh;                              // Text103
+  std::string max_wind, gust;                  // Text104, Text105
+  std::vector<std::string> soil;               // Text41 .. Text46
+  std::string f32;                             // Text7
+  std::string dddff;                           // Text34
+};
+SynopLineParts synop_line_parts(Workstation& ws);
+
+// 2 + number + YY MM DD hour + twelve groups + "333" + five groups (4a3hhh kept)
+// + nine groups + RH + two wind groups + "999" at 03, 09 and 15 UTC + six soil
+// groups + six blanks: 199 characters, then F32. A missing group keeps its place
+// as blanks.
+std::string s_line(const SynopLineParts& p);
+// number + YY MM DD hour + "***" + dddff + "*******".
+std::string g_line(const SynopLineParts& p);
+// The IT line: "266" in place of "2" and the first two figures of the number.
+std::string it_line(std::string_view s_line);
+
+// One field of the KASHF text record: the browser box and its width (0: as it
+// stands, the varying fields).
+struct RecordField {
+  std::string_view box;
+  int width;
+};
+// The fields of the record in their order; the line ends with "NOTE" and the
+// remarks after the last of them.
+const std::vector<RecordField>& kashf_record_fields();
+// The record from the browser's boxes: each value left-aligned in its field,
+// then "NOTE" and the remarks as they stand.
+std::string kashf_record(const std::function<std::string(std::string_view box)>& value);
+
+// ---- Files ------------------------------------------------------------------
+
+// Appends one line (CR LF added) to the file, creating the file but never its
+// folder. Throws with a clear description ("Path not found", "Permission
+// denied", "Disk full") and the file's name.
+void append_line(const std::filesystem::path& file, std::string_view line);
+// Writes the file anew with one line.
+void write_first_line(const std::filesystem::path& file, std::string_view line);
+// The month-end rewrite: the file read whole, written again with one CR LF
+// more. The text read is returned. A missing file is "File not found".
+std::string rewrite_with_line_end(const std::filesystem::path& file);
+
+// A system name below the bank root as a file under it.
+std::filesystem::path bank_file(Workstation& ws, std::string_view system_name);
+
+}  // namespace obsdesk

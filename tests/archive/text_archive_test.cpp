@@ -1,0 +1,197 @@
+// The text archives: names, the S, G and IT lines, the KASHF record, and the
+// files on disk (code page, CR LF, appends, faults).
+#include "archive/text_archive.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "core/textnum.h"
+#include "support/test_support.h"
+
+namespace obsdesk {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string read_bytes(const fs::path& f) {
+  std::ifstream in(f, std::ios::binary);
+  std::ostringstream o;
+  o << in.rdbuf();
+  return o.str();
+}
+
+std::string blanks(std::size_t n) { return std::string(n, ' '); }
+
+SynopLineParts full_parts(const std::string& hour) {
+  SynopLineParts p;
+  p.numcod = "40754";
+  p.year = "2024";
+  p.month = "03";
+  p.day = "20";
+  p.hour = hour;
+  p.section1 = {"12570", "80000", "00000", "10150", "20012", "38760", "40215", "52012", "60001", "70211",
+                "81200", "92350"};
+  p.section3 = {"10210", "21005", "30004", "40000", "     "};
+  p.section5 = {"50030", "55080", "01234", "71234", "80120", "     ", "     ", "     ", "90101"};
+  p.rh = "45";
+  p.max_wind = "27012";
+  p.gust = "     ";
+  p.soil = {"10150", "10140", "10130", "10120", "10110", "10100"};
+  p.f32 = "F32";
+  p.dddff = "27012";
+  return p;
+}
+
+TEST(TextArchive, SLineKeepsEveryPlaceAndTheSoilHeadingAtItsHours) {
+  struct Case {
+    std::string hour;
+    bool soil_heading;
+  };
+  for (const Case& c : {Case{"03", true}, Case{"09", true}, Case{"15", true}, Case{"06", false}, Case{"00", false},
+                        Case{"12", false}}) {
+    const SynopLineParts p = full_parts(c.hour);
+    const std::string s = s_line(p);
+    EXPECT_EQ(len(s), 199u + 3u) << c.hour;
+    const std::string expected = "24075424032" + std::string("0") + c.hour +
+                                 "12570800000000010150200123876040215520126000170211812009235" + "0" + "333" +
+                                 "1021021005300044000" + "0" + blanks(5) + "5003055080012347123480120" + blanks(15) +
+                                 "90101" + "45 " + "27012" + blanks(5) + (c.soil_heading ? "999" : "   ") +
+                                 "101501014010130101201011010100" + blanks(6) + "F32";
+    EXPECT_EQ(s, expected) << c.hour;
+    EXPECT_EQ(mid(s, 75, 3), "333");
+  }
+  // A report with nothing coded keeps its head, "333" and its length.
+  SynopLineParts empty;
+  empty.numcod = "40754";
+  empty.year = "2024";
+  empty.month = "03";
+  empty.day = "20";
+  empty.hour = "06";
+  const std::string s = s_line(empty);
+  EXPECT_EQ(len(s), 199u);
+  EXPECT_EQ(left(s, 14), "24075424032006");
+  EXPECT_EQ(mid(s, 75, 3), "333");
+  EXPECT_EQ(it_line(s_line(full_parts("06"))), "266" + mid(s_line(full_parts("06")), 4));
+  EXPECT_EQ(left(it_line(s), 8), "26675424");
+  EXPECT_EQ(g_line(full_parts("06")), "4075424032006***27012*******");
+  EXPECT_EQ(g_line(empty), "4075424032006***     *******");
+}
+
+TEST(TextArchive, TheClimatologicalDayOfTheItFile) {
+  struct Case {
+    const char *y, *m, *d;
+    double hour;
+    const char *year, *month, *before, *day;
+  };
+  const Case cases[] = {
+      {"2004", "12", "31", 13, "2005", "01", "00", "01"},  // the plain subtraction gives day "00"
+      {"2004", "12", "31", 12, "2004", "12", "30", "31"},  // 12 UTC still ends the day
+      {"2024", "02", "28", 18, "2024", "02", "28", "29"},  // leap year
+      {"2023", "02", "28", 18, "2023", "03", "00", "01"},
+      {"2000", "02", "29", 21, "2000", "03", "00", "01"},  // 2000 is a leap year
+      {"2024", "04", "30", 15, "2024", "05", "00", "01"},
+      {"2024", "01", "31", 13, "2024", "02", "00", "01"},
+      {"2024", "03", "09", 15, "2024", "03", "09", "10"},
+      {"2024", "03", "05", 6, "2024", "03", "04", "05"},
+      {"2024", "03", "01", 0, "2024", "03", "00", "01"},
+  };
+  for (const Case& c : cases) {
+    const ItDay d = it_day(c.y, c.m, c.d, c.hour);
+    const std::string where = std::string(c.y) + c.m + c.d + " " + std::to_string(c.hour);
+    EXPECT_EQ(d.year, c.year) << where;
+    EXPECT_EQ(d.month, c.month) << where;
+    EXPECT_EQ(d.day_before, c.before) << where;
+    EXPECT_EQ(d.day, c.day) << where;
+  }
+  EXPECT_EQ(it_file_name("VARDOK\\BANK\\OIII", "754", it_day("2004", "12", "31", 13)),
+            "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\S75420050100" "01IT.DAT");
+}
+
+TEST(TextArchive, NamesFollowTheKeyText) {
+  const ScdataNames s = scdata_names("VARDOK\\BANK\\OIII", "754", "2403200600");
+  EXPECT_EQ(s.day, "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\S754240320.dat");
+  EXPECT_EQ(s.month, "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\S7542403.dat");
+  EXPECT_EQ(s.total, "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\S754.dat");
+  EXPECT_EQ(s.monthG, "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\SG7542403.dat");
+  EXPECT_EQ(s.totalG, "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\SG754.dat");
+  EXPECT_EQ(station_nnn("40754"), "754");
+  EXPECT_EQ(station_nnn("407"), "7");
+  const std::pair<const char*, const char*> months[] = {
+      {"2501050600", "2412"}, {"2403200600", "2402"}, {"0001010600", "-112"}, {"2412010600", "2411"},
+      {"2410010600", "2409"}};
+  for (const auto& [key, tag] : months) EXPECT_EQ(previous_month_tag(key), tag) << key;
+}
+
+TEST(TextArchive, KashfRecordPadsEachFieldButTheVaryingOnes) {
+  std::map<std::string, std::string, std::less<>> v = {
+      {"Text44", "MEHRABAD AIRPORT  OIII  40754"}, {"TXTSEL", "METAR(30')"}, {"Text1", ""},
+      {"CMbMAX", "NE"}, {"CMbMIN", ""}, {"Text2", "270"}, {"TXTNAM", "علي محمدي"}, {"Text74", "دو خط\r\nيادداشت"},
+  };
+  const std::string r = kashf_record([&](std::string_view box) {
+    auto it = v.find(box);
+    return it == v.end() ? std::string() : it->second;
+  });
+  EXPECT_EQ(left(r, 50), pad_right("MEHRABAD AIRPORT  OIII  40754", 50));
+  EXPECT_EQ(mid(r, 51, 10), "METAR(30')");
+  std::size_t fixed = 0;
+  for (const RecordField& f : kashf_record_fields()) fixed += static_cast<std::size_t>(f.width);
+  EXPECT_EQ(len(r), fixed + 10 + 2 + 4 + len(v["Text74"]));
+  EXPECT_EQ(right(r, 4 + len(v["Text74"])), "NOTE" + v["Text74"]);
+  EXPECT_EQ(mid(r, len(r) - 4 - len(v["Text74"]) - 29, 30), pad_right("علي محمدي", 30));
+  // Text1 is empty and stands for nothing: the direction follows the day boxes.
+  const std::size_t after_dates = 50 + 10 + 2 + 10 + 4 + 2 + 2 + 4 + 2 + 2;
+  EXPECT_EQ(mid(r, after_dates + 1, 4), "270 ");
+  EXPECT_EQ(mid(r, after_dates + 1 + 4 + 4 + 4 + 3 + 3 + 5, 2), "NE");
+}
+
+TEST(TextArchive, LinesGoToDiskInTheCodePageWithCrLf) {
+  test::TempDir dir;
+  const fs::path f = dir.path() / "S754.dat";
+  append_line(f, "2407542403200612570");
+  append_line(f, "علي");
+  EXPECT_EQ(read_bytes(f), "2407542403200612570\r\n" + to_cp1256("علي") + "\r\n");
+  EXPECT_EQ(read_bytes(f).size(), 19u + 2u + 3u + 2u);  // one byte a Persian letter
+  write_first_line(f, "ZCZC");
+  EXPECT_EQ(read_bytes(f), "ZCZC\r\n");
+  EXPECT_EQ(rewrite_with_line_end(f), "ZCZC\r\n");
+  EXPECT_EQ(read_bytes(f), "ZCZC\r\n\r\n");
+  EXPECT_FALSE(fs::exists(f.string() + ".new"));
+}
+
+TEST(TextArchive, FaultsAreToldByNameAndLeaveTheFileAsItWas) {
+  test::TempDir dir;
+  auto message = [](auto&& f) {
+    try {
+      f();
+    } catch (const std::exception& e) {
+      return std::string(e.what());
+    }
+    return std::string("no error");
+  };
+  const fs::path missing = dir.path() / "NOFOLDER" / "S754.dat";
+  EXPECT_EQ(message([&] { append_line(missing, "x"); }), "Path not found: " + missing.string());
+  EXPECT_FALSE(fs::exists(missing.parent_path()));  // folders are not made here
+  const fs::path blocked = dir.path() / "afile";
+  std::ofstream(blocked) << "kept\r\n";
+  EXPECT_EQ(message([&] { append_line(blocked / "S754.dat", "x"); }), "Path not found: " + (blocked / "S754.dat").string());
+  EXPECT_EQ(message([&] { rewrite_with_line_end(dir.path() / "S7542412.dat"); }),
+            "File not found: " + (dir.path() / "S7542412.dat").string());
+
+  const fs::path ro = dir.path() / "ro";
+  fs::create_directory(ro);
+  std::ofstream(ro / "S754.dat") << "kept\r\n";
+  fs::permissions(ro, fs::perms::owner_read | fs::perms::owner_exec);
+  fs::permissions(ro / "S754.dat", fs::perms::owner_read);
+  if (::access((ro / "S754.dat").c_str(), W_OK) == 0) GTEST_SKIP() << "permissions do not bind this user";
+  EXPECT_EQ(message([&] { append_line(ro / "S754.dat", "x"); }), "Permission denied: " + (ro / "S754.dat").string());
+  EXPECT_EQ(message([&] { append_line(ro / "new.dat", "x"); }), "Permission denied: " + (ro / "new.dat").string());
+  EXPECT_EQ(message([&] { rewrite_with_line_end(ro / "S754.dat"); }), "Permission denied: " + (ro / "S754.dat").string());
+  EXPECT_EQ(read_bytes(ro / "S754.dat"), "kept\r\n");
+}
+
+}  // namespace
+}  // namespace obsdesk
