@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace obsdesk {
 
@@ -27,5 +28,9 @@ double coder_number(std::string_view text);
 // Ten times a value as the coders write it: no padding, no trailing zeros,
 // 15 significant digits ("25.4" gives "254", "-0.5" gives "-5").
 std::string tenths_text(double value);
+
+// A report text cut for the bulletin: the first line ends at the last blank
+// within `limit` characters, which is dropped; the rest is the second line.
+std::pair<std::string, std::string> split_report(std::string_view text, std::size_t limit);
 
 }  // namespace obsdesk

@@ -234,7 +234,7 @@ void run(Workstation& ws, MetarForm form) {
                                                k.Text22.text, k.TEXTMIN.text));
   if (!sky_step(ws, figure)) return;
   second_visibility_step(ws);
-  put(ws, p.Text55, vertical_visibility_group(k.Text12.text));
+  put(ws, p.Text55, metar_vertical_visibility(k.Text12.text));
   put(ws, p.Text61, temperature_group(k.Text27.text, k.Text29.text));
   if (!trim(k.Text19.text).empty()) {
     ws.set(p.Text3, qnh_group(k.Text19.text));

@@ -120,7 +120,7 @@ std::string visibility_group(double v, std::string_view direction, bool with_top
 }
 
 // VVhshshs: 30 m steps to 1500 m, 300 m steps above, "VV///" when not seen
-std::string vertical_visibility_group(std::string_view vv) {
+std::string metar_vertical_visibility(std::string_view vv) {
   const std::string t = trim(vv);
   if (t.empty()) return "";
   if (t == "/" || t == "//") return "VV///";
@@ -391,15 +391,5 @@ std::string join_groups(const std::vector<std::string>& groups) {
   return out;
 }
 
-std::pair<std::string, std::string> split_report(std::string_view text, std::size_t limit) {
-  if (len(text) <= limit) return {std::string(text), ""};
-  std::pair<std::string, std::string> lines{std::string(text), ""};
-  const std::size_t n = len(text);
-  for (std::size_t p = 1; p <= n && p <= limit; ++p) {
-    if (char_at(text, p) != " ") continue;
-    lines = {left(text, p - 1), mid(text, p + 1)};
-  }
-  return lines;
-}
 
 }  // namespace obsdesk

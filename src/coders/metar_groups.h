@@ -3,6 +3,8 @@
 // results into the METAR frame of the code panel.
 #pragma once
 
+#include "coders/coder_common.h"
+
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -58,7 +60,7 @@ std::string variable_sector(std::string_view dn, std::string_view dx);
 std::string visibility_group(double v, std::string_view direction, bool with_top_row = true);
 
 // VVhshshs: vertical visibility from metres; "" when the text is empty.
-std::string vertical_visibility_group(std::string_view vv);
+std::string metar_vertical_visibility(std::string_view vv);
 
 // ---- Temperature and pressure --------------------------------------------------------
 
@@ -119,8 +121,5 @@ int merge_convective(std::array<std::string, 5>& boxes, const Merge& m);
 // Every group that is not empty, each with one blank in front.
 std::string join_groups(const std::vector<std::string>& groups);
 
-// The report body split for the bulletin: the whole text when it is not longer
-// than the limit, otherwise broken at the last blank within the limit.
-std::pair<std::string, std::string> split_report(std::string_view text, std::size_t limit);
 
 }  // namespace obsdesk

@@ -168,15 +168,5 @@ std::string cloud_group(std::string_view tp, std::string_view low_type, std::str
 
 std::string humidity_box(std::string_view rh) { return pad_left(num(round_to(coder_number(rh))), 3); }
 
-std::pair<std::string, std::string> split_report(std::string_view text, std::size_t limit) {
-  std::pair<std::string, std::string> lines{std::string(text), ""};
-  if (len(text) <= limit) return lines;
-  const std::size_t n = len(text);
-  for (std::size_t p = 1; p <= n && p <= limit; ++p) {
-    if (char_at(text, p) != " ") continue;
-    lines = {left(text, p - 1), mid(text, p + 1)};
-  }
-  return lines;
-}
 
 }  // namespace obsdesk

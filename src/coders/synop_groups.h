@@ -5,6 +5,8 @@
 // throws CoderError.
 #pragma once
 
+#include "coders/coder_common.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -60,8 +62,5 @@ std::string cloud_group(std::string_view tp, std::string_view low_type, std::str
 // The RH box: whole percent, three figures.
 std::string humidity_box(std::string_view rh);
 
-// The report lines: the whole text when it fits the limit, else broken at the
-// last blank within it. {line 1, line 2}.
-std::pair<std::string, std::string> split_report(std::string_view text, std::size_t limit);
 
 }  // namespace obsdesk

@@ -72,7 +72,7 @@ TEST(VerticalVisibility, ThirtyMetreStepsThenThreeHundred) {
       {"299", "VV009"},  {"300", "VV010"},    {"1500", "VV050"}, {"1600", "VV050"}, {"1800", "VV056"},
       {"9000", "VV080"}, {"9500", ""},
   };
-  for (const auto& row : table) EXPECT_EQ(vertical_visibility_group(row.vv), row.group) << row.vv;
+  for (const auto& row : table) EXPECT_EQ(metar_vertical_visibility(row.vv), row.group) << row.vv;
 }
 
 TEST(TimeGroup, LooksBackToTheTenthMinuteBeforeTheHour) {
