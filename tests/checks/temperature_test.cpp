@@ -157,7 +157,7 @@ TEST(Thermometer, WetBulbEntryAndLeaving) {
     Entry w;
     w.s.asker.queue(r.answer);
     w.ws.type(w.k.Text28, r.wet);
-    w.ws.focus_now(w.k.Text5);
+    w.ws.focus_now(w.k.Text74);
     EXPECT_EQ(w.k.Text28.text, r.text) << r.wet;
     EXPECT_EQ(w.focus(), r.focus) << r.wet;
   }
