@@ -1,0 +1,166 @@
+// A year of work at a 24-hour station: every hour one report is entered, coded,
+// confirmed and saved through the screens, a SYN & MET at the eight synoptic
+// hours (2,920) and a METAR at the others (5,840), on a bank whose KASHF table
+// already holds twenty years of rows. Reported: observations per second and the
+// size of the bank at the end.
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "bank/bank.h"
+#include "bank/sqlite.h"
+#include "core/program.h"
+#include "core/record.h"
+#include "core/workstation.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace obsdesk;
+
+constexpr int kYearReports = 365 * 24;
+constexpr int kArchiveYears = 20;
+
+fs::path temp_root() {
+  std::string tmpl = (fs::temp_directory_path() / "obsdesk-year-bench-XXXXXX").string();
+  if (::mkdtemp(tmpl.data()) == nullptr) std::abort();
+  return fs::path(tmpl) / "bank";
+}
+
+// Twenty years of hourly rows in the KASHF table, written straight into the bank.
+void fill_archive(const fs::path& root) {
+  create_bank(root);
+  Database db(resolve_bank_path(root, "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"), Database::Mode::ReadWrite);
+  const auto& cols = kashf_columns();
+  std::string names, marks;
+  for (std::size_t i = 0; i < cols.size(); ++i) {
+    names += (i ? "," : "") + quote_name(cols[i].column);
+    marks += i ? ",?" : "?";
+  }
+  db.exec("BEGIN");
+  auto st = db.prepare("INSERT INTO KASHF (" + names + ") VALUES (" + marks + ")");
+  for (int r = 0; r < kArchiveYears * kYearReports; ++r) {
+    for (std::size_t c = 0; c < cols.size(); ++c) st.bind(static_cast<int>(c + 1), std::to_string(r % 997));
+    st.run();
+    st.reset();
+  }
+  db.exec("COMMIT");
+}
+
+std::uintmax_t folder_size(const fs::path& root) {
+  std::uintmax_t total = 0;
+  for (const auto& e : fs::recursive_directory_iterator(root))
+    if (e.is_regular_file()) total += e.file_size();
+  return total;
+}
+
+struct Desk {
+  QueueAsker asker;
+  FixedClock clock{{2023, 1, 1, 0, 5, 0}};
+  MemoryClipboard clipboard;
+  std::unique_ptr<Workstation> ws;
+};
+
+std::string two(int n) {
+  char b[4];
+  std::snprintf(b, sizeof b, "%02d", n);
+  return b;
+}
+
+// One report of the hour, typed as an observer types it; false when the screens
+// refused it (the reason is in the messages).
+bool one_report(Workstation& ws, int hour) {
+  const bool synoptic = hour % 3 == 0;
+  FrmKashf& k = ws.FrmKashf;
+  ws.click(ws.FrmDisplayKashf.newW);
+  ws.choose(k.Combo5, synoptic ? std::string(kSynMet) : std::string(kMetar));
+  if (synoptic) {
+    ws.type(ws.FrmIRIX.TXTIR, "3");
+    ws.type(ws.FrmIRIX.TXTIX, "2");
+  }
+  ws.type(k.Text1, two(hour));
+  ws.press_enter();
+  ws.set_text(k.Text2, "270");
+  ws.set_text(k.Text3, "4");
+  ws.set_text(k.Text4, "10000");
+  ws.set_text(k.Text5, "3");
+  ws.set_text(k.Text6, "3");
+  ws.set_text(k.Combo1, "CU     1");
+  ws.set_text(k.Text7, "900");
+  if (synoptic) {
+    ws.set_text(k.Text49, "3");
+    ws.set_text(k.Combo4, "CU     1");
+    ws.set_text(k.txtmin, "900");
+  }
+  ws.set_text(k.Text27, "12.4");
+  ws.set_text(k.Text28, "6.2");
+  ws.set_text(k.Text13, "15");
+  ws.set_text(k.Text14, "880.0");
+  if (synoptic) {
+    ws.set_text(k.Text25, "1.2");
+    ws.set_text(k.Text38, "3");
+    ws.set_text(k.txtt12, "8.0");
+    ws.set_text(k.Text59, "4.0");
+    ws.set_text(k.Text60, "18.2");
+    ws.click(k.Cmdsynop);
+  }
+  ws.click(k.Command4);
+  ws.click(k.Combo7);
+  ws.choose(k.Combo7, "احمد رضايي");
+  ws.click(k.ZAKHIREH);
+  ws.click(ws.FrmDisplayKashf.save);
+  const bool saved = ws.FrmPol.visible;  // the copy-out dialog follows every save
+  if (saved) ws.click(ws.FrmPol.Command1);
+  return saved;
+}
+
+void BM_YearOfWork(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    const fs::path root = temp_root();
+    fill_archive(root);
+    Desk d;
+    d.ws = std::make_unique<Workstation>(root, Services{d.asker, d.clock, d.clipboard});
+    start_program(*d.ws);
+    d.ws->click(d.ws->FrmMain.Command2);
+    state.ResumeTiming();
+
+    int done = 0;
+    for (int day = 0; day < 365; ++day) {
+      // The clock of the observation: a few minutes past each hour of 2023.
+      const std::chrono::year_month_day date{std::chrono::sys_days{std::chrono::year{2023} / 1 / 1} +
+                                             std::chrono::days{day}};
+      const int y = static_cast<int>(date.year());
+      const int m = static_cast<int>(static_cast<unsigned>(date.month()));
+      const int dd = static_cast<int>(static_cast<unsigned>(date.day()));
+      for (int hour = 0; hour < 24; ++hour) {
+        d.clock.set({y, m, dd, hour, 5, 0});
+        if (!one_report(*d.ws, hour)) {
+          const auto msgs = d.ws->take_messages();
+          state.SkipWithError(("a report was refused at " + two(m) + "-" + two(dd) + " " + two(hour) + ": " +
+                               (msgs.empty() ? std::string("no message") : msgs.back()))
+                                  .c_str());
+          return;
+        }
+        d.ws->take_messages();
+        ++done;
+      }
+    }
+
+    state.PauseTiming();
+    state.counters["observations"] = done;
+    state.counters["obs_per_s"] = benchmark::Counter(done, benchmark::Counter::kIsRate);
+    d.ws.reset();
+    state.counters["bank_MB"] = static_cast<double>(folder_size(root)) / 1e6;
+    fs::remove_all(root.parent_path());
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(BM_YearOfWork)->Unit(benchmark::kSecond)->Iterations(1)->UseRealTime();
+
+}  // namespace
