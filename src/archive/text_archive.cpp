@@ -157,7 +157,12 @@ SynopLineParts synop_line_parts(Workstation& ws) {
   for (const TextBox* b : {&c.Text76, &c.Text77, &c.Text78, &c.Text79, &c.Text80, &c.Text81, &c.Text82,
                            &c.Text83, &c.Text84, &c.Text85, &c.Text86, &c.Text87})
     p.section1.push_back(b->text);
-  for (const TextBox* b : {&c.Text89, &c.Text90, &c.Text91, &c.Text92, &c.Text93}) p.section3.push_back(b->text);
+  for (const TextBox* b : {&c.Text89, &c.Text90, &c.Text91, &c.Text92}) p.section3.push_back(b->text);
+  // The 850 hPa height goes to the archive at the main hours of a station between
+  // 750 and 2300 m only; elsewhere its place stays blank.
+  const double height = val(ws.FrmOption.Txth.text), hour = val(c.Text75.text);
+  const bool upper_air = height > 749.9 && height < 2300.1 && (hour == 0 || hour == 6 || hour == 12 || hour == 18);
+  p.section3.push_back(upper_air ? c.Text93.text : std::string(5, ' '));
   for (const TextBox* b : {&c.Text94, &c.Text95, &c.Text96, &c.Text97, &c.Text98, &c.Text99, &c.Text100,
                            &c.Text101, &c.Text102})
     p.section5.push_back(b->text);

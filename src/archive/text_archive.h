@@ -56,7 +56,7 @@ std::string previous_month_tag(std::string_view key);
 struct SynopLineParts {
   std::string numcod, year, month, day, hour;  // year: the full Gregorian year
   std::vector<std::string> section1;           // Text76 .. Text87, twelve groups
-  std::vector<std::string> section3;           // Text89 .. Text93, five groups
+  std::vector<std::string> section3;           // Text89 .. Text92, then the 4a3hhh place
   std::vector<std::string> section5;           // Text94 .. Text102, nine groups
   std::string rh;                              // Text103
   std::string max_wind, gust;                  // Text104, Text105

@@ -22,10 +22,6 @@ void run_metar_coder(Workstation& ws, MetarForm form);
 // against a clear sky. False when one failed.
 bool metar_focus_checks(Workstation& ws);
 
-// The cloud rows: amount, height and type of every layer agree. On a failure the
-// words go to the panel, the box concerned is emptied or focused; false.
-bool cloud_rows_ok(Workstation& ws);
-
 // The SPECI's own time step: txt1 on four figures, the time boxes of the SPECI frame.
 void speci_time_step(Workstation& ws);
 // TXTSPE: the SPECI time group, then the groups of the METAR frame.

@@ -22,14 +22,14 @@ bool not_observed(std::string_view t) { return t == "-" || t == "/" || t == "//"
 double coder_number(std::string_view text, std::string_view field) {
   const std::string t = trim(text);
   if (!is_numeric(t))
-    throw CoderFailure("Type mismatch: " + std::string(field) + " = \"" + std::string(text) + "\"");
+    throw CoderError(std::string(kTypeMismatch) + ": " + std::string(field) + " = \"" + std::string(text) + "\"");
   // The reader takes a number too large for a double as 0: the overflow is told here.
   std::string c = t;
   for (char& ch : c)
     if (ch == 'd' || ch == 'D') ch = 'e';
   const double x = std::strtod(c.c_str(), nullptr);
   if (!std::isfinite(x) || std::fabs(x) > kLongMax)
-    throw CoderFailure("Overflow: " + std::string(field) + " = \"" + std::string(text) + "\"");
+    throw CoderError("Overflow: " + std::string(field) + " = \"" + std::string(text) + "\"");
   return x;
 }
 
@@ -46,7 +46,7 @@ std::string metar_time_group(std::string_view day, std::string_view hour) {
   double d = coder_number(day, "Day");
   const double h = coder_number(hour, "UTC");
   if (h != std::trunc(h) || h < 0 || h > 23)
-    throw CoderFailure("The hour of the report is not 00 to 23: UTC = \"" + std::string(hour) + "\"");
+    throw CoderError("The hour of the report is not 00 to 23: UTC = \"" + std::string(hour) + "\"");
   if (h == 0) {
     d -= 1;
     // The first of a month is not rolled back to the month before.

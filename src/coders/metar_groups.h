@@ -6,7 +6,6 @@
 #include "coders/coder_common.h"
 
 #include <array>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,15 +13,9 @@
 
 namespace obsdesk {
 
-// A text that a group needs as a number and that is none: the run stops and the
-// description goes to the message panel.
-class CoderFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
 // The number of a field that a group is built from. Junk, an empty text or a
-// value too large for a group is a CoderFailure naming the field.
+// value too large for a group is a CoderError that names the field, so that the
+// observer sees which box to correct.
 double coder_number(std::string_view text, std::string_view field);
 
 // ---- Time ---------------------------------------------------------------------

@@ -38,7 +38,6 @@
 #include "physics/barometer.h"
 #include "physics/tendency.h"
 #include "pickers/boards.h"
-#include "settings/formula_constants.h"
 #include "settings/frm_option.h"
 
 namespace obsdesk {
@@ -127,7 +126,6 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
-  FormulaConstants formula;  // numbers of the barometer reduction, set with the station settings
 
   // Barometer and psychrometry: the results of DAMA_FASHAR and ModuleINVERS, kept
   // from call to call, and the relative humidity last typed in Text31.

@@ -52,10 +52,8 @@ void wire_ground(Workstation& ws) {
   FrmZamin& z = ws.FrmZamin;
   for (int i = 0; i < 20; ++i) {
     z.buttons[i]->on(Event::Click, [i](Workstation& w) { ground_click(w, i); });
-    z.buttons[i]->on(Event::MouseMove, [i](Workstation& w) {
-      const GroundState& g = ground_state_table()[i];
-      show_hint(w, std::string(g.snow ? "E' CODE " : "E CODE ") + std::string(g.figure));
-    });
+    const GroundState& g = ground_state_table()[i];
+    bind_hint(*z.buttons[i], std::string(g.snow ? "E' CODE " : "E CODE ") + std::string(g.figure));
   }
   z.Text1.on(Event::KeyUp, FrmZamin_Text1_key_up);
   z.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmZamin); });

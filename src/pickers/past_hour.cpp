@@ -44,10 +44,8 @@ void wire_past_hour(Workstation& ws) {
     const PastHourWeather& row = past_hour_table()[ww];
     if (row.act == PastHourAct::Nothing) continue;  // 78 has no handler at all
     b.on(Event::Click, [ww](Workstation& w) { FrmGozashteh_P_click(w, ww); });
-    b.on(Event::MouseMove, [ww](Workstation& w) {
-      const std::string code(present_weather_picture(ww).substr(2));
-      show_hint(w, "METAR CODE " + std::string(past_hour_table()[ww].box) + "   SYNOP CODE " + code);
-    });
+    bind_hint(b, "METAR CODE " + std::string(row.box) + "   SYNOP CODE " +
+                     std::string(present_weather_picture(ww).substr(2)));
   }
   g.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmGozashteh); });
 }

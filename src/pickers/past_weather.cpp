@@ -64,9 +64,7 @@ void wire_past_weather(Workstation& ws) {
     PastWeatherBoard& s = *boards[i];
     for (int n = 0; n < 10; ++n) {
       s.button(n).on(Event::Click, [board, n](Workstation& w) { w_click(w, board, n); });
-      s.button(n).on(Event::MouseMove, [board, n](Workstation& w) {
-        show_hint(w, "W" + std::to_string(board) + " CODE " + std::to_string(n));
-      });
+      bind_hint(s.button(n), "W" + std::to_string(board) + " CODE " + std::to_string(n));
     }
     s.Command1.on(Event::Click, [&s](Workstation& w) { w.hide(s); });
   }

@@ -4,11 +4,15 @@
 
 namespace obsdesk {
 
-// The hint window shows the code under the pointer; it takes no input.
-void show_hint(Workstation& ws, const std::string& text) {
-  ws.FrmTooltip.Lab1.text = text;
-  ws.FrmTooltip.loaded = true;
-  ws.FrmTooltip.visible = true;
+// The hint window shows the code under the pointer; it takes no input, so it is
+// shown without taking the focus from the board.
+void bind_hint(Control& picture, std::string text) {
+  picture.on(Event::MouseMove, [text](Workstation& ws) {
+    ws.FrmTooltip.Lab1.text = text;
+    ws.FrmTooltip.loaded = true;
+    ws.FrmTooltip.visible = true;
+  });
+  picture.on(Event::MouseLeave, [](Workstation& ws) { ws.FrmTooltip.visible = false; });
 }
 
 void wire_pickers(Workstation& ws) {

@@ -8,6 +8,7 @@
 namespace obsdesk {
 
 class Workstation;
+struct Control;
 struct SkyBoard;
 
 // Binds every board and the pictures of the entry screen that open them.
@@ -44,8 +45,9 @@ void TXTIX_change(Workstation& ws);
 void FrmIRIX_Combo1_change(Workstation& ws);
 void FrmIRIX_Combo3_change(Workstation& ws);
 
-// The hint beside a board's picture.
-void show_hint(Workstation& ws, const std::string& text);
+// The hint beside a board's picture: shown with the text of the code while the
+// pointer is over the picture, hidden when it leaves.
+void bind_hint(Control& picture, std::string text);
 
 void wire_present_weather(Workstation& ws);
 void wire_past_hour(Workstation& ws);

@@ -226,9 +226,7 @@ void wire_present_weather(Workstation& ws) {
   for (int ww = 0; ww < 100; ++ww) {
     Button& b = *f.buttons.P[ww];
     b.on(Event::Click, [ww](Workstation& w) { P_click(w, ww); });
-    b.on(Event::MouseMove, [ww](Workstation& w) {
-      show_hint(w, "METAR CODE " + std::string(present_weather_table()[ww].metar) + "   SYNOP CODE " + two_figures(ww));
-    });
+    bind_hint(b, "METAR CODE " + std::string(present_weather_table()[ww].metar) + "   SYNOP CODE " + two_figures(ww));
   }
   f.CmbVC.on(Event::Click, CmbVC_click);
   f.Command1.on(Event::Click, FrmFeali_Command1_click);

@@ -102,7 +102,7 @@ void wire_sky_letters(Workstation& ws) {
     for (auto& b : board->letters) {
       const std::string name = b->name;
       b->on(Event::Click, [board, name](Workstation& w) { sky_letter_click(w, *board, name); });
-      b->on(Event::MouseMove, [name](Workstation& w) { show_hint(w, std::string(find_letter(name)->text)); });
+      bind_hint(*b, std::string(find_letter(name)->text));
     }
     board->Text1.on(Event::KeyUp, [board](Workstation& w) { sky_Text1_key_up(w, *board); });
     board->Command1.on(Event::Click, [board](Workstation& w) { w.hide(*board); });

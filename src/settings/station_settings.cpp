@@ -63,7 +63,6 @@ void command(Workstation& ws, F&& f) {
 
 void FrmOption_load(Workstation& ws) {
   FrmOption& o = ws.FrmOption;
-  ws.formula = FormulaConstants{};
   lock_boxes(o, true);
   enable_commands(o, true);
   o.adding = o.editing = false;

@@ -162,7 +162,7 @@ TEST(TextArchive, LinesGoToDiskInTheCodePageWithCrLf) {
   EXPECT_FALSE(fs::exists(f.string() + ".new"));
 }
 
-TEST(TextArchive, FaultsAreToldByNameAndLeaveTheFileAsItWas) {
+TEST(TextArchive, FaultsAreToldByName) {
   test::TempDir dir;
   auto message = [](auto&& f) {
     try {
@@ -181,6 +181,21 @@ TEST(TextArchive, FaultsAreToldByNameAndLeaveTheFileAsItWas) {
   EXPECT_EQ(message([&] { rewrite_with_line_end(dir.path() / "S7542412.dat"); }),
             "File not found: " + (dir.path() / "S7542412.dat").string());
 
+  if (fs::exists("/dev/full")) {  // a device that is always full
+    EXPECT_EQ(message([&] { append_line("/dev/full", "x"); }), "Disk full: /dev/full");
+  }
+}
+
+TEST(TextArchive, AReadOnlyFolderIsToldAndLeftAsItWas) {
+  test::TempDir dir;
+  auto message = [](auto&& f) {
+    try {
+      f();
+    } catch (const std::exception& e) {
+      return std::string(e.what());
+    }
+    return std::string("no error");
+  };
   const fs::path ro = dir.path() / "ro";
   fs::create_directory(ro);
   std::ofstream(ro / "S754.dat") << "kept\r\n";

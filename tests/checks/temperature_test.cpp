@@ -6,6 +6,7 @@
 #include "checks/limits.h"
 #include "checks/temperature_words.h"
 #include "physics/entry_fixture.h"
+#include "pickers/weather_tables.h"
 
 namespace obsdesk {
 namespace {
@@ -27,6 +28,24 @@ TEST(Thermometer, TypingRule) {
   EXPECT_EQ(e.k.Text27.text, "");
   EXPECT_EQ(e.focus(), "Text27");
   EXPECT_EQ(e.messages(), std::vector<std::string>{panel(words::kCheckTemperature)});
+}
+
+// Above 3 degrees, snow or ice in the present weather asks for a confirmation.
+TEST(Thermometer, DryBulbAboveThreeWithSnowIsAsked) {
+  struct Row {
+    int ww;
+    const char* typed;
+    bool asked;
+  } const rows[] = {{71, "5", true}, {71, "3", false}, {85, "-2", false}, {94, "12", true},
+                    {61, "12", false}, {87, "12", false}, {-1, "12", false}};
+  for (const Row& r : rows) {
+    Entry e;
+    if (r.ww >= 0) e.k.Image1.text = std::string(present_weather_picture(r.ww));
+    e.s.asker.queue(false);
+    e.ws.type(e.k.Text27, r.typed);
+    EXPECT_EQ(e.k.Text27.text, r.asked ? "" : r.typed) << r.ww << " " << r.typed;
+    EXPECT_EQ(e.messages().empty(), !r.asked) << r.ww << " " << r.typed;
+  }
 }
 
 struct DryEnterCase {
@@ -157,7 +176,7 @@ TEST(Thermometer, WetBulbEntryAndLeaving) {
     Entry w;
     w.s.asker.queue(r.answer);
     w.ws.type(w.k.Text28, r.wet);
-    w.ws.focus_now(w.k.Text5);
+    w.ws.focus_now(w.k.Text74);
     EXPECT_EQ(w.k.Text28.text, r.text) << r.wet;
     EXPECT_EQ(w.focus(), r.focus) << r.wet;
   }

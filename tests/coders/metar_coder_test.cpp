@@ -22,7 +22,7 @@ const Fields kExample = {
     {"Combo2", "       0"}, {"Text9", "0"},         {"Text10", "0"},         {"Combo3", "       0"},
     {"Text11", "0"},        {"Text17", "0"},        {"Combo6", "       0"},  {"Text16", "0"},
     {"Text23", "0"},        {"Combo9", "       0"}, {"Text22", "0"},         {"Text27", "25.4"},
-    {"Text29", "12.1"},     {"Text19", "1015.2"},   {"Image10", "ww-sky-bc"}, {"FrmDisplayKashf.TXTWW1", " bc"},
+    {"Text29", "12.1"},     {"Text19", "1015.2"},   {"Image10", "sky_bc"}, {"FrmDisplayKashf.TXTWW1", " bc"},
 };
 
 struct Entry {
@@ -84,7 +84,7 @@ TEST(MetarCoder, ReportsOfTheSameObservation) {
 }
 
 TEST(SpeciCoder, PadsTheTimeAndSplitsIntoItsOwnLines) {
-  Entry e(kSpeci, {{"txt1", "7"}, {"Text2", "240"}, {"Text3", "10"}, {"TXTGUSTY", "15"}, {"Text40", "200"},
+  Entry e(kSpeci, {{"Text5", "6"}, {"txt1", "7"}, {"Text2", "240"}, {"Text3", "10"}, {"TXTGUSTY", "15"}, {"Text40", "200"},
                    {"Text39", "280"}, {"Text6", "2"}, {"Text8", "3"}, {"Combo2", "SC     4"}, {"Text9", "900"},
                    {"Text10", "5"}, {"Combo3", "SC     5"}, {"Text11", "1200"}, {"Text20", "29.97"}});
   e.click(e.ws.FrmKashf.Command8);
@@ -127,8 +127,8 @@ TEST(MetarCoder, SkyGroups) {
       {"TCU keeps the cloud groups", {{"Text7", "1800"}, {"Combo1", "CU     2"}, {"Text4", "12000"}},
        " 24008KT 9999 SCT060TCU 25/12 Q1015="},
       {"sky obscured", {{"Text5", "9"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}, {"Text12", "90"},
-                        {"Text4", "400"}, {"TxtVM", "350"}, {"Text26", "5500"}, {"CMbMIN", "W"}},
-       " 24008KT 0350 5000W VV003 25/12 Q1015="},
+                        {"Text4", "400"}, {"TxtVM", "350"}, {"CMbMAX", "N"}, {"Text26", "5500"}, {"CMbMIN", "W"}},
+       " 24008KT 0350N 5000W VV003 25/12 Q1015="},
   };
   for (const auto& row : table) {
     Entry e(kMetar, row.changes);
@@ -159,7 +159,7 @@ TEST(MetarCoder, RefusalsEndTheRun) {
       {"CAVOK against the weather", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"},
                                      {"Text4", "10000"}, {"FrmDisplayKashf.TXTWW1", ""}},
        "FrmERR: گزارش شده با هواي حاضر مغايرت دارد CAVOK", ""},
-      {"temperature no number", {{"Text27", "2a"}}, "FrmERR: Type mismatch: temperature = \"2a\"", ""},
+      {"dew point no number", {{"Text29", "1.2.3"}}, "FrmERR: Type mismatch: temperature = \"1.2.3\"", ""},
       {"speed no number", {{"Text3", ""}}, "FrmERR: Type mismatch: FF = \"\"", ""},
       {"hour missing", {{"Text1", ""}}, "FrmERR: Type mismatch: UTC = \"\"", ""},
       {"QNH too large", {{"Text19", "1E999"}}, "FrmERR: Overflow: QNH = \"1E999\"", ""},
@@ -184,7 +184,7 @@ TEST(MetarCoder, FocusChecksBeforeTheClick) {
     const char* focus;
     bool coded;
   } table[] = {
-      {"the same weather twice", {{"Image8", "ww-sky-bc"}, {"LabVC", "None"}},
+      {"the same weather twice", {{"Image8", "sky_bc"}, {"LabVC", "None"}},
        "FrmERR: هر دو هواي فعلي انتخابي يكسان ميباشد", "FrmKashf.Text74", false},
       {"a layer without amount", {{"Text8", "0"}, {"Combo2", "SC     4"}},
        "FrmERR: مــقدار ، نــوع و يا ارتفاع ابــر  را چــك نمـائيـــد", "FrmKashf.Text8", false},

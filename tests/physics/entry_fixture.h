@@ -42,6 +42,8 @@ struct Entry {
     ws.press_enter();
   }
   std::string focus() const { return ws.focused() ? ws.focused()->name : ""; }
+  // The box that holds the entry screen's focus, whatever screen is in front.
+  std::string kashf_focus() const { return k.active ? k.active->name : ""; }
   std::vector<std::string> messages() { return ws.take_messages(); }
   // The nine derived boxes in the order RH TC QFE EHPA QFF QNH QIN H850 TDEW.
   std::vector<std::string> derived() const {

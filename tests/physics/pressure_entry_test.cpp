@@ -27,7 +27,8 @@ TEST(PressureEntry, ObserverTypesBothStationCases) {
     EXPECT_EQ(e.k.Text29.fore_color, kWindowText);
     EXPECT_TRUE(e.messages().empty());
     e.ws.press_enter();
-    EXPECT_EQ(e.focus(), "Text38");  // the tendency follows for the SYNOP kinds
+    EXPECT_EQ(e.kashf_focus(), "Text38");  // the tendency follows for the SYNOP kinds
+    EXPECT_EQ(e.ws.active_screen(), &e.ws.FrmNTF);
   }
   {
     Entry e;
@@ -89,7 +90,7 @@ TEST(PressureEntry, BarographStationTakesTheStationPressureFromText41) {
   e.ws.type(e.k.Text41, "871.4");
   EXPECT_EQ(e.k.Text18.text, "");  // computed on leaving only
   e.ws.press_enter();
-  EXPECT_EQ(e.focus(), "Text38");
+  EXPECT_EQ(e.kashf_focus(), "Text38");
   // Neither the reading of Text14 nor TP stands: the correction is 0.
   EXPECT_EQ(e.k.Text15.text, "0");
   EXPECT_EQ(e.k.Text18.text, "871.4");
@@ -269,7 +270,7 @@ TEST(PressureEntry, EnterInTheReadingByKindAndCloud) {
     e.k.Text18.text = r.qfe;
     e.ws.focus_now(e.k.Text14);
     e.ws.press_enter();
-    EXPECT_EQ(e.focus(), r.focus) << r.kind << " " << r.cloud;
+    EXPECT_EQ(e.kashf_focus(), r.focus) << r.kind << " " << r.cloud;
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "core/record.h"
 #include "core/seams.h"
 #include "pickers/board_tables.h"
 #include "pickers/pickers.h"
@@ -341,6 +342,24 @@ TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
   ws.click(k.Image3);
   EXPECT_EQ(ws.FrmDisplayKashf.Text52.text, "");
   EXPECT_EQ(ws.GroundCode, "");
+}
+
+TEST(EntryPictures, TheIrIxBoxOpensItsBoard) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  FrmKashf& k = ws.FrmKashf;
+  ws.focus_now(k.Combo5);
+  ws.choose(k.Combo5, kSynop);
+  ASSERT_TRUE(ws.FrmIRIX.visible);  // the SYNOP kinds open it at once
+  ws.click(ws.FrmIRIX.Command1);
+  EXPECT_FALSE(ws.FrmIRIX.visible);
+  EXPECT_EQ(k.Text48.text, "");
+  ws.click(k.Text48);
+  ASSERT_TRUE(ws.FrmIRIX.visible);
+  ws.type(ws.FrmIRIX.TXTIR, "2");
+  ws.type(ws.FrmIRIX.TXTIX, "5");
+  EXPECT_EQ(k.Text48.text, "25");
+  EXPECT_FALSE(ws.FrmIRIX.visible);
 }
 
 TEST(EntryPictures, ADoubleClickOffersTheSkyLetters) {

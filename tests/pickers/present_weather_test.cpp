@@ -236,6 +236,19 @@ TEST(PresentWeather, VisibilityMarks) {
   EXPECT_EQ(b.TXTWW4.text, "05");
 }
 
+TEST(PresentWeather, TheHintNamesBothCodes) {
+  test::Station s;
+  Workstation& ws = s.start();
+  ws.WeatherBoxSelect = 1;
+  ws.show(ws.FrmFeali);
+  ws.click(*ws.FrmFeali.buttons.P[63]);  // the pointer passes over it first; no cloud: refused
+  EXPECT_EQ(ws.FrmTooltip.Lab1.text, "METAR CODE RA   SYNOP CODE 63");
+  EXPECT_TRUE(ws.FrmTooltip.visible);
+  ws.click(*ws.FrmFeali.buttons.P[2]);
+  EXPECT_EQ(ws.FrmTooltip.Lab1.text, "METAR CODE    SYNOP CODE 02");
+  EXPECT_FALSE(ws.FrmTooltip.visible);  // hidden with the board
+}
+
 TEST(PresentWeather, CancelAndVicinity) {
   test::Station s;
   Workstation& ws = s.start();
