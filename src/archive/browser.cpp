@@ -175,7 +175,7 @@ void TXTSEL_change(Workstation& ws) {
 
 void Text1_change(Workstation& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
-  const long hour = static_cast<long>(val(b.Text1.text));
+  const long hour = int_val(b.Text1.text);
   const bool main_hour = hour % 3 == 0;
   for (Control* c : Controls{&b.Label94, &b.Label96, &b.Label109, &b.Txttond, &b.Txtmaxwind, &b.Frame6, &b.Frame17,
                              &b.Frame15, &b.Frame8, &b.Frame9, &b.Frame10, &b.Frame5})

@@ -16,7 +16,7 @@ namespace obsdesk {
 namespace {
 
 std::string two(long n) { return pad_left(std::to_string(n), 2); }
-long number(const std::string& text) { return static_cast<long>(val(text)); }
+long number(const std::string& text) { return int_val(text); }
 
 bool one_of(long v, std::initializer_list<long> set) {
   for (long s : set)
@@ -31,8 +31,8 @@ void leap_flags(Workstation& ws) {
   CalendarState& c = ws.calendar;
   c.GLeapThis = 0;
   c.SLeapA = 0;
-  c.GLeapThis = gregorian_leap(static_cast<int>(val(ws.FrmKashf.TXTYEARmi.text))) ? 1 : 0;
-  c.SLeapA = gregorian_leap(static_cast<int>(val(ws.FrmKashf.TXTYEARsh.text))) ? 1 : 0;
+  c.GLeapThis = gregorian_leap(int_val(ws.FrmKashf.TXTYEARmi.text)) ? 1 : 0;
+  c.SLeapA = gregorian_leap(int_val(ws.FrmKashf.TXTYEARsh.text)) ? 1 : 0;
 }
 
 void put_date(Workstation& ws, TextBox& day, TextBox& month, TextBox& year, const DateTexts& d) {

@@ -22,7 +22,7 @@ namespace {
 bool number_of(const std::string& text, int& out) {
   const std::string t = trim(text);
   if (t.empty() || !is_numeric(t)) return false;
-  out = static_cast<int>(val(t));
+  out = int_val(t);
   return true;
 }
 

@@ -106,7 +106,7 @@ KashfNames kashf_names(std::string_view folder, std::string_view nnn, std::strin
 ItDay it_day(std::string_view year, std::string_view month, std::string_view day, double hour) {
   ItDay d{std::string(year), std::string(month), {}, std::string(day)};
   if (hour > 12) {
-    long y = static_cast<long>(val(year)), m = static_cast<long>(val(month)), dd = static_cast<long>(val(day)) + 1;
+    long y = int_val(year), m = int_val(month), dd = int_val(day) + 1;
     static const int kLength[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     const long length = m == 2 ? (gregorian_leap(static_cast<int>(y)) ? 29 : 28)
                                 : (m >= 1 && m <= 12 ? kLength[m - 1] : 31);
@@ -120,7 +120,7 @@ ItDay it_day(std::string_view year, std::string_view month, std::string_view day
     }
     d.day = two(dd);
   }
-  const long before = static_cast<long>(val(d.day)) - 1;
+  const long before = int_val(d.day) - 1;
   d.day_before = before >= 0 && before < 10 ? "0" + std::to_string(before) : std::to_string(before);
   return d;
 }
@@ -130,8 +130,8 @@ std::string it_file_name(std::string_view folder, std::string_view nnn, const It
 }
 
 std::string previous_month_tag(std::string_view key) {
-  long m = static_cast<long>(val(mid(key, 3, 2)));
-  long y = static_cast<long>(val(mid(key, 1, 2)));
+  long m = int_val(mid(key, 3, 2));
+  long y = int_val(mid(key, 1, 2));
   if (m == 1) {
     m = 12;
     --y;

@@ -16,7 +16,7 @@ bool part(const std::string& text, int& out) {
     return true;
   }
   if (!is_numeric(t)) return false;
-  out = static_cast<int>(val(t));
+  out = int_val(t);
   return true;
 }
 

@@ -58,7 +58,7 @@ int month_of_text(std::string_view text) {
   if (int n = position(shamsi_month_names(), text); n != 0) return n;
   const std::string t = trim(text);
   if (!is_numeric(t)) return 0;
-  return static_cast<int>(val(t));
+  return int_val(t);
 }
 
 std::string weekday_name(int year, int month, int day) {

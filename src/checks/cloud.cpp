@@ -146,7 +146,7 @@ void Text5_leave(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& h = hour_text(ws);
   if (!k.Frame6.visible || !is_numeric(h) || val(h) < 0 || val(h) > 23) return;
-  const int index = main_hour_index((static_cast<int>(val(h)) + 12) % 24);
+  const int index = main_hour_index((int_val(h) + 12) % 24);
   if (index >= 0) ws.set(k.txtt12, ws.FrmMain.T[static_cast<std::size_t>(index)]->text);
 }
 

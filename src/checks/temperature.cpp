@@ -137,7 +137,7 @@ void Text27_leave(Workstation& ws) {
     k.Text14.visible = true;
   }
   // 3. The day's table of temperatures that this report writes back.
-  const int index = k.Text1.text.empty() ? -1 : main_hour_index(static_cast<int>(val(k.Text1.text)));
+  const int index = k.Text1.text.empty() ? -1 : main_hour_index(int_val(k.Text1.text));
   const bool keeps_table =
       k.Combo5.text == kSynMet || (k.Combo5.text == kSynop && twelve_hour_station(ws));
   if (keeps_table && index >= 0) {

@@ -147,7 +147,7 @@ void open_control_databases(Workstation& ws) {
 long parse_colour(const std::string& text) {
   const std::string t = trim(text);
   if (t.empty()) return 0xC0C0C0;
-  return static_cast<long>(val(t));
+  return int_val(t);
 }
 
 void apply_colours(Workstation& ws) {

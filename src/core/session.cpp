@@ -256,7 +256,7 @@ void apply_hour_rules(Workstation& ws) {
   // 9GGgg: the hour before, with "50" minutes.
   const std::string& h = hour_text(ws);
   if (!h.empty() && val(h) >= 0 && val(h) <= 23) {
-    const int before = (static_cast<int>(val(h)) + 23) % 24;
+    const int before = (int_val(h) + 23) % 24;
     ws.set(ws.FrmCode.Text87, "9" + pad_left(std::to_string(before), 2) + "50");
   }
 }

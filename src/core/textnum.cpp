@@ -1,3 +1,4 @@
+#include <algorithm>
 #include "core/textnum.h"
 
 #include <iconv.h>
@@ -207,6 +208,13 @@ std::string round_text(double x, int decimals) { return num(round_to(x, decimals
 
 double vb_int(double x) { return std::floor(x); }
 double fix(double x) { return std::trunc(x); }
+
+int int_val(std::string_view text) {
+  constexpr double kLimit = 999999999;
+  const double x = std::trunc(val(text));
+  if (std::isnan(x)) return 0;
+  return static_cast<int>(std::clamp(x, -kLimit, kLimit));
+}
 
 std::size_t len(std::string_view s) {
   std::size_t n = 0;

@@ -37,6 +37,11 @@ std::string round_text(double x, int decimals = 0);
 double vb_int(double x);
 double fix(double x);
 
+// The whole part of the leading number of a text, truncated toward zero and held
+// within +-999,999,999, so that a long run of typed figures never overflows the
+// arithmetic of hours, days and years done on it.
+int int_val(std::string_view text);
+
 // Character helpers on UTF-8 text. Positions are 1-based as in the old runtime.
 std::size_t len(std::string_view s);
 std::string mid(std::string_view s, std::size_t start, std::size_t count = std::string::npos);
