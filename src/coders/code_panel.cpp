@@ -227,20 +227,46 @@ std::optional<std::string> derived_wind(std::string_view nddff) {
   return pad_left(num(val(dd) * 10) + mid(nddff, 4, 2), 5);
 }
 
+namespace {
+
+// The store follows the panel: after any event that changed a stored box, the
+// boxes are written once, so that the COOD row is the panel as last left,
+// cleared boxes included.
+void panel_changed(Workstation& ws) {
+  FrmCode& p = ws.FrmCode;
+  load_code_panel(ws);  // a group dropped in loads the panel, as any reference to it does
+  if (p.store_pending) return;
+  p.store_pending = true;
+  ws.post([](Workstation& w) {
+    w.FrmCode.store_pending = false;
+    save_code_panel(w);
+  });
+}
+
+}  // namespace
+
 void wire_code_panel(Workstation& ws) {
   FrmCode& p = ws.FrmCode;
   p.on(ScreenEvent::Load, FrmCode_load);
   p.SSTab1.on(Event::Change, SSTab1_change);
   p.TXTSCDATA.on(Event::Change, TXTSCDATA_change);
-  p.Text77.on(Event::Change, Text77_change);
   for (Control* back : Controls{&p.Command1, &p.Command2, &p.Command3}) back->on(Event::Click, Back_click);
   // Mirror: a change in the METAR frame shows at once in the SPECI frame; the
   // hour is not mirrored, the SPECI coder writes it itself.
-  for (const MirrorRow& r : kFrames) {
-    if (r.column == "UTC") continue;
-    Control& from = box_of(p, r.metar_box);
-    Control& to = box_of(p, r.speci_box);
-    from.on(Event::Change, [&from, &to](Workstation& w) { w.set(to, from.text); });
+  std::vector<std::pair<Control*, Control*>> mirror;
+  for (const MirrorRow& r : kFrames)
+    if (r.column != "UTC") mirror.emplace_back(&box_of(p, r.metar_box), &box_of(p, r.speci_box));
+  for (const PanelField& f : cood_fields()) {
+    Control& box = box_of(p, f.box);
+    Control* twin = nullptr;
+    for (const auto& [from, to] : mirror)
+      if (from == &box) twin = to;
+    const bool wind = &box == &p.Text77;
+    box.on(Event::Change, [&box, twin, wind](Workstation& w) {
+      if (twin != nullptr) w.set(*twin, box.text);
+      if (wind) Text77_change(w);
+      panel_changed(w);
+    });
   }
   ws.FrmKashf.Command5.on(Event::Click, Command5_click);
 }

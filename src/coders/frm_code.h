@@ -127,6 +127,8 @@ struct FrmCode : Screen {
   TextBox TXTYEARsh{*this, "TXTYEARsh"};  // Persian year
   TextBox TXTMONTHSH{*this, "TXTMONTHSH"};  // Persian month
   TextBox TXTDAYsh{*this, "TXTDAYsh"};  // Persian day
+
+  bool store_pending = false;  // a write of the boxes into COOD is due after the event
 };
 
 }  // namespace obsdesk

@@ -221,16 +221,6 @@ void run_synop(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);
-  // The panel keeps what the run wrote, whatever stops it.
-  struct Keep {
-    Workstation& ws;
-    ~Keep() {
-      try {
-        save_code_panel(ws);
-      } catch (...) {  // the store's own failures are told inside
-      }
-    }
-  } keep{ws};
 
   const double irix = val(k.Text48.text);
   if (irix - 10 * vb_int(irix / 10) == 1 && p.Text85.text == kBlankGroup) {

@@ -39,7 +39,6 @@ void run_synop1218(Workstation& ws) {
   set_archive_line(ws, std::move(line));
   k.ZAKHIREH.enabled = true;
   k.cmdsynop1218.enabled = false;
-  save_code_panel(ws);
 }
 
 }  // namespace obsdesk

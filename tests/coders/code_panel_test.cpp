@@ -93,6 +93,25 @@ TEST(CodePanel, TheStoreKeepsThePanelBetweenRuns) {
   EXPECT_EQ(ws.FrmCode.Text4.text, "+TSRA");
 }
 
+TEST(CodePanel, AClearedPanelIsStoredClearedWithoutGoingBack) {
+  test::Station s;
+  {
+    Workstation& ws = s.open_entry();
+    ws.set_text(ws.FrmCode.Text85, "70222");  // a picker drops a group in
+    ws.set_text(ws.FrmCode.Text87, "90550");
+    ws.set_text(ws.FrmCode.Text85, "     ");  // the confirmation clears it
+  }
+  s.ws.reset();
+  QueueAsker asker;
+  FixedClock clock({2024, 3, 20, 5, 40, 0});
+  MemoryClipboard clipboard;
+  Workstation ws(s.root(), Services{asker, clock, clipboard});
+  start_program(ws);
+  load_code_panel(ws);
+  EXPECT_EQ(ws.FrmCode.Text85.text, "     ");
+  EXPECT_EQ(ws.FrmCode.Text87.text, "90550");
+}
+
 TEST(CodePanel, TheNewBankHoldsOneBlankRow) {
   test::Station s;
   s.start();

@@ -1,0 +1,62 @@
+#include "calendar/date_boxes.h"
+
+#include "calendar/names.h"
+#include "core/textnum.h"
+#include "core/workstation.h"
+
+namespace obsdesk {
+
+namespace {
+
+// A date part as a number: empty reads 0; other text that is no number gives up.
+bool part(const std::string& text, int& out) {
+  const std::string t = trim(text);
+  if (t.empty()) {
+    out = 0;
+    return true;
+  }
+  if (!is_numeric(t)) return false;
+  out = static_cast<int>(val(t));
+  return true;
+}
+
+}  // namespace
+
+void gregorian_date_key_up(Workstation& ws, bool key_in_day) {
+  FrmKashf& k = ws.FrmKashf;
+  if (k.TXTDAYmi.text.empty() || k.TXTMONTHMI.text.empty() || k.TXTYEARmi.text.empty()) return;
+  int y = 0, d = 0;
+  const int m = month_of_text(k.TXTMONTHMI.text);
+  if (!part(k.TXTYEARmi.text, y) || !part(k.TXTDAYmi.text, d) || m == 0) return;
+  CalendarState& c = ws.calendar;
+  gregorian_to_shamsi(c, y, m, d);
+  ws.set(k.TXTMONTHSH, lead_zero(std::to_string(c.SMonth)));
+  ws.set(k.TXTYEARsh, std::to_string(c.SYear));
+  ws.set(k.TXTDAYsh, lead_zero(std::to_string(c.SDay)));
+  const int leap = key_in_day ? 0 : c.GLeapThis;
+  const bool impossible = (m == 2 && d > 28 + leap) || (d == 31 && (m == 4 || m == 6 || m == 9 || m == 11)) || d > 31;
+  if (impossible)
+    for (Control* box : Controls{&k.TXTYEARsh, &k.TXTMONTHSH, &k.TXTDAYsh}) ws.set(*box, "");
+}
+
+void shamsi_date_key_up(Workstation& ws, const Control& changed) {
+  FrmKashf& k = ws.FrmKashf;
+  if (changed.text.empty()) return;
+  int y = 0, d = 0;
+  int m = month_of_text(k.TXTMONTHSH.text);
+  if (!part(k.TXTYEARsh.text, y) || !part(k.TXTDAYsh.text, d)) return;
+  if (m == 0 && !part(k.TXTMONTHSH.text, m)) return;
+  CalendarState& c = ws.calendar;
+  shamsi_to_gregorian(c, y, m, d);
+  ws.set(k.TXTMONTHMI, lead_zero(std::to_string(c.GMonth)));  // the table's months are two figures
+  ws.set(k.TXTYEARmi, std::to_string(c.GYear));
+  ws.set(k.TXTDAYmi, lead_zero(std::to_string(c.GDay)));
+  if (d > 31)
+    for (Control* box : Controls{&k.TXTMONTHMI, &k.TXTYEARmi, &k.TXTDAYmi}) ws.set(*box, "");
+}
+
+void date_box_leave(Workstation& ws, Control& box) {
+  if (len(box.text) == 1) ws.set(box, "0" + box.text);
+}
+
+}  // namespace obsdesk

@@ -1,0 +1,24 @@
+// The two date groups of the entry screen: a key released in one group converts
+// the date into the other. The session binds these rules to the boxes' events.
+#pragma once
+
+namespace obsdesk {
+
+class Workstation;
+struct Control;
+
+// A key released in TXTDAYmi, TXTMONTHMI or TXTYEARmi (key_in_day: in the day
+// box). With all three filled, the Persian boxes get the date; a Gregorian date
+// that cannot be (30 February, 31 April, a day above 31) clears them. From the
+// day box the 29th of February is cleared in every year: it stays so.
+void gregorian_date_key_up(Workstation& ws, bool key_in_day);
+
+// A key released in TXTDAYsh, TXTMONTHSH or TXTYEARsh (changed: that box). The
+// Gregorian boxes get the date; a Persian day above 31 clears them.
+void shamsi_date_key_up(Workstation& ws, const Control& changed);
+
+// Leaving TXTDAYmi, TXTMONTHMI, TXTDAYsh or TXTMONTHSH: one character gets a
+// leading "0".
+void date_box_leave(Workstation& ws, Control& box);
+
+}  // namespace obsdesk
