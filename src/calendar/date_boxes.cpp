@@ -59,4 +59,16 @@ void date_box_leave(Workstation& ws, Control& box) {
   if (len(box.text) == 1) ws.set(box, "0" + box.text);
 }
 
+void wire_date_boxes(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  for (Control* c : Controls{&k.TXTDAYmi, &k.TXTMONTHMI, &k.TXTYEARmi}) {
+    const bool in_day = c == &k.TXTDAYmi;
+    c->on(Event::KeyUp, [in_day](Workstation& w) { gregorian_date_key_up(w, in_day); });
+  }
+  for (Control* c : Controls{&k.TXTDAYsh, &k.TXTMONTHSH, &k.TXTYEARsh})
+    c->on(Event::KeyUp, [c](Workstation& w) { shamsi_date_key_up(w, *c); });
+  for (Control* c : Controls{&k.TXTDAYmi, &k.TXTMONTHMI, &k.TXTDAYsh, &k.TXTMONTHSH})
+    c->on(Event::Leave, [c](Workstation& w) { date_box_leave(w, *c); });
+}
+
 }  // namespace obsdesk

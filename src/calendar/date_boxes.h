@@ -1,5 +1,5 @@
 // The two date groups of the entry screen: a key released in one group converts
-// the date into the other. The session binds these rules to the boxes' events.
+// the date into the other.
 #pragma once
 
 namespace obsdesk {
@@ -20,5 +20,8 @@ void shamsi_date_key_up(Workstation& ws, const Control& changed);
 // Leaving TXTDAYmi, TXTMONTHMI, TXTDAYsh or TXTMONTHSH: one character gets a
 // leading "0".
 void date_box_leave(Workstation& ws, Control& box);
+
+// Binds the three rules to the six date boxes of the entry screen.
+void wire_date_boxes(Workstation& ws);
 
 }  // namespace obsdesk

@@ -13,6 +13,7 @@ void wire_station_settings(Workstation& ws);
 void wire_search(Workstation& ws);
 void wire_copy_out(Workstation& ws);
 void wire_past_hours(Workstation& ws);
+void wire_date_boxes(Workstation& ws);
 
 // session
 void wire_session(Workstation& ws);
@@ -47,6 +48,7 @@ void wire_all(Workstation& ws) {
   wire_search(ws);
   wire_copy_out(ws);
   wire_past_hours(ws);
+  wire_date_boxes(ws);
 
   // session
   wire_session(ws);

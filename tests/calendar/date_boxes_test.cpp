@@ -96,5 +96,22 @@ TEST(DateBoxes, LeavingGivesOneFigureItsLeadingZero) {
   }
 }
 
+// Typed on the entry screen, the boxes' own events carry the rules.
+TEST(DateBoxes, TypingInTheBoxesConvertsAndLeavingPads) {
+  test::Station s;
+  Workstation& ws = s.open_entry();
+  FrmKashf& k = ws.FrmKashf;
+  ws.set_text(k.TXTYEARmi, "2024");
+  ws.set_text(k.TXTMONTHMI, "03");
+  ws.type(k.TXTDAYmi, "5");
+  ws.key_up(k.TXTDAYmi, "5");
+  EXPECT_EQ(k.TXTYEARsh.text + "/" + k.TXTMONTHSH.text + "/" + k.TXTDAYsh.text, "1402/12/15");
+  ws.focus_now(k.TXTMONTHMI);
+  EXPECT_EQ(k.TXTDAYmi.text, "05");
+  ws.set_text(k.TXTDAYsh, "16");
+  ws.key_up(k.TXTDAYsh, "6");
+  EXPECT_EQ(k.TXTDAYmi.text, "06");
+}
+
 }  // namespace
 }  // namespace obsdesk
