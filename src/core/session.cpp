@@ -144,10 +144,16 @@ void fill_observers(Workstation& ws) {
     if (!trim(name->text).empty()) k.Combo7.items.push_back(name->text);
 }
 
+// At 18, 21 and 00 a 12-hour station codes its SYNOP with cmdsynop1218, which
+// stands disabled once it has run.
+bool night_synop_coded(const Workstation& ws) {
+  return twelve_hour_night(ws) && ws.FrmKashf.cmdsynop1218.visible && !ws.FrmKashf.cmdsynop1218.enabled;
+}
+
 // The coded flags the report kind needs before it may be confirmed.
 bool coded_for_kind(const Workstation& ws) {
   const std::string& kind = report_kind(ws);
-  if (kind == kSynop) return ws.SYNOP_coded != 0;
+  if (kind == kSynop) return ws.SYNOP_coded != 0 || night_synop_coded(ws);
   if (kind == kSynMet) return ws.SYNOP_coded != 0 && ws.METAR_coded != 0;
   if (kind == kMetar || kind == kMetar30) return ws.METAR_coded != 0;
   if (kind == kSpeci) return ws.SPECI_coded != 0;
@@ -276,6 +282,9 @@ void wire_session(Workstation& ws) {
   // After a press of a coder button the pointer moves on: the observers are offered.
   k.Cmdsynop.on(Event::MouseLeave, [](Workstation& w) {
     if (w.SYNOP_coded != 0) fill_observers(w);
+  });
+  k.cmdsynop1218.on(Event::MouseLeave, [](Workstation& w) {
+    if (night_synop_coded(w)) fill_observers(w);
   });
   k.Command4.on(Event::MouseLeave, [](Workstation& w) {
     if (w.METAR_coded != 0) fill_observers(w);

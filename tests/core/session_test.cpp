@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core/record.h"
+#include "core/textnum.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -184,6 +185,32 @@ TEST(Session, ObserverChosenAfterTheCoderOpensConfirmation) {
   EXPECT_FALSE(k.ZAKHIREH.enabled);
   ws.choose(k.Combo7, k.Combo7.items[0]);
   EXPECT_TRUE(k.ZAKHIREH.enabled);
+}
+
+// At 18, 21 and 00 a 12-hour station codes its SYNOP with cmdsynop1218: once it has
+// run, the observers are offered and the report can be confirmed under a name.
+TEST(Session, TwelveHourNightSynopIsConfirmedUnderAnObserver) {
+  for (const char* hour : {"18", "21", "00"}) {
+    test::Station s({2024, 3, 20, 21, 10, 0});
+    Workstation& ws = entry(s, kSynop);
+    FrmKashf& k = ws.FrmKashf;
+    ws.FrmOption.Combo1.text = std::string(kStation12);
+    ws.type(k.Text1, hour);
+    ws.press_enter();
+    ws.type(k.Text27, "15.2");
+    ws.click(k.cmdsynop1218);
+    EXPECT_FALSE(k.cmdsynop1218.enabled) << hour;
+    ws.click(k.Combo7);  // the pointer leaves the button
+    ASSERT_EQ(k.Combo7.items.size(), 4u) << hour;
+    EXPECT_EQ(k.Combo7.text, "نام ديدبان كشيك") << hour;
+    const std::string observer = k.Combo7.items[0];
+    ws.choose(k.Combo7, observer);
+    ASSERT_TRUE(k.ZAKHIREH.enabled) << hour;
+    ws.click(k.ZAKHIREH);
+    EXPECT_EQ(ws.active_screen(), &ws.FrmDisplayKashf) << hour;
+    EXPECT_EQ(trim(ws.FrmDisplayKashf.TXTNAM.text), observer) << hour;
+    EXPECT_EQ(ws.FrmMain.txtutcpastb.text, hour) << hour;
+  }
 }
 
 }  // namespace
