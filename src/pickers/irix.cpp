@@ -31,7 +31,9 @@ int item_number(const Control& list) {
   return it == list.items.end() ? 0 : static_cast<int>(it - list.items.begin()) + 1;
 }
 
-void typed(Workstation& ws, Control& box, Control& list, std::string_view refusal) {
+// A typed figure chooses its list item. The same item as the last report's is
+// still a choice: the board is only hidden between reports and keeps its texts.
+void typed(Workstation& ws, Control& box, Control& list, std::string_view refusal, void (*chosen)(Workstation&)) {
   if (box.text.empty()) return;
   const int n = figure(box.text, static_cast<int>(list.items.size()));
   if (n == 0) {
@@ -39,14 +41,21 @@ void typed(Workstation& ws, Control& box, Control& list, std::string_view refusa
     ws.set(box, "");
     return;
   }
-  ws.set(list, list.items[n - 1]);
+  if (list.text == list.items[n - 1])
+    chosen(ws);
+  else
+    ws.set(list, list.items[n - 1]);
 }
 
 }  // namespace
 
-void TXTIR_change(Workstation& ws) { typed(ws, ws.FrmIRIX.TXTIR, ws.FrmIRIX.Combo1, kIrRange); }
+void TXTIR_change(Workstation& ws) {
+  typed(ws, ws.FrmIRIX.TXTIR, ws.FrmIRIX.Combo1, kIrRange, FrmIRIX_Combo1_change);
+}
 
-void TXTIX_change(Workstation& ws) { typed(ws, ws.FrmIRIX.TXTIX, ws.FrmIRIX.Combo3, kIxRange); }
+void TXTIX_change(Workstation& ws) {
+  typed(ws, ws.FrmIRIX.TXTIX, ws.FrmIRIX.Combo3, kIxRange, FrmIRIX_Combo3_change);
+}
 
 void FrmIRIX_Combo1_change(Workstation& ws) {
   const int n = item_number(ws.FrmIRIX.Combo1);
@@ -79,6 +88,9 @@ void wire_irix(Workstation& ws) {
   f.TXTIX.on(Event::Change, TXTIX_change);
   f.Combo1.on(Event::Change, FrmIRIX_Combo1_change);
   f.Combo3.on(Event::Change, FrmIRIX_Combo3_change);
+  // A choice of the item already shown changes no text but is a choice all the same.
+  f.Combo1.on(Event::Click, FrmIRIX_Combo1_change);
+  f.Combo3.on(Event::Click, FrmIRIX_Combo3_change);
   f.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmIRIX); });
 }
 

@@ -285,6 +285,20 @@ TEST(IrIx, TypedAndChosen) {
   ws.type(f.TXTIX, "4");
   EXPECT_EQ(ws.FrmKashf.Text48.text, "14");
   EXPECT_FALSE(f.visible);
+  // The next report gives the same figures: typed or chosen, they still count.
+  for (bool by_list : {false, true}) {
+    ws.set_text(ws.FrmKashf.Text48, "");
+    open_irix_picker(ws, false);
+    if (by_list) {
+      ws.choose(f.Combo1, ir_texts()[0]);
+      ws.choose(f.Combo3, ix_texts()[3]);
+    } else {
+      ws.type(f.TXTIR, "1");
+      ws.type(f.TXTIX, "4");
+    }
+    EXPECT_EQ(ws.FrmKashf.Text48.text, "14") << by_list;
+    EXPECT_FALSE(f.visible) << by_list;
+  }
 }
 
 TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
