@@ -61,7 +61,7 @@ std::uintmax_t folder_size(const fs::path& root) {
 
 struct Desk {
   QueueAsker asker;
-  FixedClock clock{{2023, 1, 1, 0, 5, 0}};
+  FixedClock clock{{2023, 2, 1, 0, 5, 0}};
   MemoryClipboard clipboard;
   std::unique_ptr<Workstation> ws;
 };
@@ -132,8 +132,9 @@ void BM_YearOfWork(benchmark::State& state) {
 
     int done = 0;
     for (int day = 0; day < 365; ++day) {
-      // The clock of the observation: a few minutes past each hour of 2023.
-      const std::chrono::year_month_day date{std::chrono::sys_days{std::chrono::year{2023} / 1 / 1} +
+      // The clock of the observation: a few minutes past each hour, from February
+      // 2023, so that January's month-end rewrite finds December's files.
+      const std::chrono::year_month_day date{std::chrono::sys_days{std::chrono::year{2023} / 2 / 1} +
                                              std::chrono::days{day}};
       const int y = static_cast<int>(date.year());
       const int m = static_cast<int>(static_cast<unsigned>(date.month()));
