@@ -72,13 +72,12 @@ Control& box_of(FrmCode& p, std::string_view name) {
   return *c;
 }
 
-// The store's database; the table and its row are made when they are missing,
-// and columns added when an older table lacks them.
-Database open_store(Workstation& ws) {
-  Database db(resolve_bank_path(ws.bank_root(), ws.FrmMain.txtpathnamebank1.text), Database::Mode::ReadWrite);
+// The store's table made ready: made when missing, columns added when an older
+// table lacks them, its one row made when there is none.
+void prepare_store(Database& db) {
   if (!db.has_table("COOD")) {
     create_cood_table(db);
-    return db;
+    return;
   }
   const std::vector<std::string> have = db.table_columns("COOD");
   for (const PanelField& f : cood_fields()) {
@@ -101,7 +100,21 @@ Database open_store(Workstation& ws) {
     for (const PanelField& f : cood_fields()) ins.bind(i++, cood_blank(f.column));
     ins.run();
   }
-  return db;
+}
+
+// The store's database, opened and made ready once for its path and then kept:
+// the panel is written after every event that changes it.
+Database& open_store(Workstation& ws) {
+  FrmCode& p = ws.FrmCode;
+  const auto path = resolve_bank_path(ws.bank_root(), ws.FrmMain.txtpathnamebank1.text);
+  if (!p.store || p.store_path != path) {
+    p.store.reset();
+    auto db = std::make_shared<Database>(path, Database::Mode::ReadWrite);
+    prepare_store(*db);
+    p.store = std::move(db);
+    p.store_path = path;
+  }
+  return *p.store;
 }
 
 bool has_store(Workstation& ws) { return !ws.FrmMain.txtpathnamebank1.text.empty(); }
@@ -110,7 +123,7 @@ void read_store(Workstation& ws) {
   if (!has_store(ws)) return;
   std::vector<std::pair<Control*, std::string>> values;
   {
-    Database db = open_store(ws);
+    Database& db = open_store(ws);
     std::string names;
     for (const PanelField& f : cood_fields()) names += (names.empty() ? "" : ",") + quote_name(f.column);
     auto st = db.prepare("SELECT " + names + " FROM COOD ORDER BY rowid LIMIT 1");
@@ -132,6 +145,7 @@ void FrmCode_load(Workstation& ws) {
   try {
     read_store(ws);
   } catch (const BankError& e) {
+    ws.FrmCode.store.reset();  // opened afresh at the next use
     ws.error(e.what());  // the panel stays as designed; nothing is lost
   }
   // The two SPECI boxes start with the METAR values.
@@ -208,7 +222,7 @@ void load_code_panel(Workstation& ws) {
 void save_code_panel(Workstation& ws) {
   if (!has_store(ws)) return;
   try {
-    Database db = open_store(ws);
+    Database& db = open_store(ws);
     std::string sets;
     for (const PanelField& f : cood_fields()) sets += (sets.empty() ? "" : ", ") + quote_name(f.column) + " = ?";
     auto st = db.prepare("UPDATE COOD SET " + sets + " WHERE rowid = (SELECT min(rowid) FROM COOD)");
@@ -216,6 +230,7 @@ void save_code_panel(Workstation& ws) {
     for (const PanelField& f : cood_fields()) st.bind(i++, box_of(ws.FrmCode, f.box).text);
     st.run();
   } catch (const BankError& e) {
+    ws.FrmCode.store.reset();  // opened afresh at the next use
     ws.error(e.what());
   }
 }

@@ -5,7 +5,12 @@
 
 #include "core/control.h"
 
+#include <filesystem>
+#include <memory>
+
 namespace obsdesk {
+
+class Database;
 
 struct FrmCode : Screen {
   FrmCode();
@@ -129,6 +134,9 @@ struct FrmCode : Screen {
   TextBox TXTDAYsh{*this, "TXTDAYsh"};  // Persian day
 
   bool store_pending = false;  // a write of the boxes into COOD is due after the event
+  // The store's database, kept open between writes while its path stands.
+  std::shared_ptr<Database> store;
+  std::filesystem::path store_path;
 };
 
 }  // namespace obsdesk
