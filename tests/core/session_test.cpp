@@ -213,5 +213,43 @@ TEST(Session, TwelveHourNightSynopIsConfirmedUnderAnObserver) {
   }
 }
 
+// The observer who types RH instead of the wet bulb does so for one report: once
+// the entry screen has closed, the next report reads its wet bulb again.
+TEST(Session, HumidityModeEndsWithTheEntryScreen) {
+  test::Station s({2024, 3, 20, 2, 40, 0});
+  Workstation& ws = s.open_entry();
+  FrmKashf& k = ws.FrmKashf;
+  // A SYN & MET report up to the dry bulb, clear sky, T12 at hand.
+  auto up_to_dry_bulb = [&](const char* hour, const char* tdry) {
+    ws.choose(k.Combo5, kSynMet);
+    k.Text48.text = "12";
+    ws.type(k.Text1, hour);
+    ws.press_enter();
+    ws.set(k.Text2, "240");
+    ws.set(k.Text3, "3");
+    ws.set(k.Text4, "8000");
+    ws.type(k.Text5, "0");
+    ws.type(k.Text27, tdry);
+    ws.set(k.txtt12, "6.0");
+  };
+  up_to_dry_bulb("03", "-3.0");
+  s.asker.queue(true);  // the humidity is typed instead of the wet bulb
+  ws.press_enter();
+  ASSERT_EQ(ws.humidity_mode, 1);
+  ASSERT_EQ(ws.focused(), &k.Text31);
+
+  ws.unload(k);
+  ws.show(k);
+  up_to_dry_bulb("09", "4.0");
+  ws.press_enter();
+  ASSERT_EQ(ws.focused(), &k.Text28);
+  ws.type(k.Text28, "1.5");
+  ws.type(k.Text13, "15");
+  ws.type(k.Text14, "883.2");
+  EXPECT_EQ(ws.humidity_mode, 0);
+  EXPECT_EQ(k.Text28.text, "1.5");  // read, not derived from the last report's RH
+  EXPECT_EQ(k.Text31.text, "62.1");
+}
+
 }  // namespace
 }  // namespace obsdesk
