@@ -79,6 +79,7 @@ class Recordset {
   Database db_;
   std::string table_;
   std::vector<std::string> cols_;
+  std::vector<std::string> upper_cols_;  // the names as matched: a column is found in any case
   std::int64_t current_ = 0;
   bool eof_ = true;
   bool bof_ = true;
