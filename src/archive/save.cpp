@@ -273,6 +273,9 @@ void save_click(Workstation& ws) {
     append_line(bank_file(ws, b.TXTFILENAMEKASHFM.text), b.txtkashf.text);
     append_line(bank_file(ws, b.TXTFILENAMEKASHFT.text), b.txtkashf.text);
     month_end(ws, "\\TEXT\\KASHF\\", "KASHF");
+    // The confirmation's lines, the bulletins and the record reach the disk
+    // together before the observer is told the report is kept.
+    flush_bank(ws.bank_root());
     ws.hide(b);
     open_copy_out(ws);
     keep_past_row(ws);
