@@ -117,6 +117,7 @@ Database& open_store(Workstation& ws) {
     prepare_store(*db);
     p.store = std::move(db);
     p.store_path = path;
+    p.stored.clear();
   }
   return *p.store;
 }
@@ -232,10 +233,14 @@ void save_code_panel(Workstation& ws) {
       for (const PanelField& f : cood_fields()) sets += (sets.empty() ? "" : ", ") + quote_name(f.column) + " = ?";
       return "UPDATE COOD SET " + sets + " WHERE rowid = (SELECT min(rowid) FROM COOD)";
     }();
+    std::vector<std::string> row;
+    for (const PanelField& f : cood_fields()) row.push_back(box_of(ws.FrmCode, f.box).text);
+    if (row == ws.FrmCode.stored) return;
     auto st = db.prepare(update);
     int i = 1;
-    for (const PanelField& f : cood_fields()) st.bind(i++, box_of(ws.FrmCode, f.box).text);
+    for (const std::string& v : row) st.bind(i++, v);
     st.run();
+    ws.FrmCode.stored = std::move(row);
   } catch (const BankError& e) {
     ws.FrmCode.store.reset();  // opened afresh at the next use
     ws.error(e.what());
