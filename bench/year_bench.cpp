@@ -164,6 +164,6 @@ void BM_YearOfWork(benchmark::State& state) {
   }
 }
 // A month first (the rate to compare changes by), then the year itself.
-BENCHMARK(BM_YearOfWork)->Arg(2)->Arg(28)->Arg(365)->Unit(benchmark::kSecond)->Iterations(1)->UseRealTime();
+BENCHMARK(BM_YearOfWork)->Arg(28)->Arg(365)->Unit(benchmark::kSecond)->Iterations(1)->UseRealTime();
 
 }  // namespace

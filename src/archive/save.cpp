@@ -273,16 +273,21 @@ void save_click(Workstation& ws) {
     append_line(bank_file(ws, b.TXTFILENAMEKASHFM.text), b.txtkashf.text);
     append_line(bank_file(ws, b.TXTFILENAMEKASHFT.text), b.txtkashf.text);
     month_end(ws, "\\TEXT\\KASHF\\", "KASHF");
-    // The confirmation's lines, the bulletins and the record reach the disk
-    // together before the observer is told the report is kept.
-    flush_bank(ws.bank_root());
     ws.hide(b);
     open_copy_out(ws);
     keep_past_row(ws);
     ws.FrmMain.PAST.refresh(ws);
+    // The report's row, the past-hours row, the confirmation's lines, the
+    // bulletins and the record reach the disk together, in one flush.
+    flush_bank(ws.bank_root());
   } catch (const UsageError&) {
     throw;
   } catch (const std::exception& e) {
+    // What was written before the fault is made to last all the same.
+    try {
+      flush_bank(ws.bank_root());
+    } catch (const std::exception&) {
+    }
     ws.message(e.what());
   }
 }
