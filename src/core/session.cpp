@@ -23,6 +23,7 @@ const std::string kFiveBlanks = "     ";
 
 void FrmKashf_load(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
+  ws.humidity_mode = 0;
   apply_colours(ws);
   ws.set(k.TxtResolution, ws.FrmMain.TxtResolution.text);
   // With the barograph in use the pressure is read from it: the attached
@@ -274,6 +275,9 @@ void FrmKashf_unload(Workstation& ws) { ws.humidity_mode = 0; }
 void wire_session(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.on(ScreenEvent::Load, FrmKashf_load);
+  // The humidity mode is the mode of one report: off when the screen opens and
+  // when it is left.
+  k.on(ScreenEvent::Unload, [](Workstation& w) { w.humidity_mode = 0; });
   k.on(ScreenEvent::Activate, FrmKashf_activate);
   k.on(ScreenEvent::Unload, FrmKashf_unload);
   k.Text1.on(Event::Change, Text1_change);
