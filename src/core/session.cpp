@@ -268,10 +268,6 @@ void apply_hour_rules(Workstation& ws) {
   }
 }
 
-// The humidity mode belongs to one observation: a report whose wet bulb was
-// derived from a typed RH must not make the next report derive it too.
-void FrmKashf_unload(Workstation& ws) { ws.humidity_mode = 0; }
-
 void wire_session(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.on(ScreenEvent::Load, FrmKashf_load);
@@ -279,7 +275,6 @@ void wire_session(Workstation& ws) {
   // when it is left.
   k.on(ScreenEvent::Unload, [](Workstation& w) { w.humidity_mode = 0; });
   k.on(ScreenEvent::Activate, FrmKashf_activate);
-  k.on(ScreenEvent::Unload, FrmKashf_unload);
   k.Text1.on(Event::Change, Text1_change);
   k.Text1.on(Event::Leave, Text1_leave);
   k.Text1.on(Event::Enter, Text1_enter);
