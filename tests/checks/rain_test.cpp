@@ -147,7 +147,6 @@ TEST(Rain, LeavingChecksIrAndLimits) {
   const Row rows[] = {
       // iR other than 1: no rain at the main hours, a nil reading stands
       {"12", "3", "t", true, check.c_str(), true},
-      {"00", "4", "/", true, check.c_str(), true},
       {"18", "", "0.5", true, check.c_str(), true},
       {"12", "3", "0", true, "", false},
       {"09", "3", "2.0", true, "", false},
@@ -213,7 +212,6 @@ TEST(Tendency, AmountBox) {
       {"5", true, "5", "", false},
       {"20", true, "20", ask + " -> yes\n", false},
       {"1..", true, "", check, false},
-      {"1-", true, "", check, false},
       {"20.5", true, "", "FrmERR: مــقدار تـغييـرات خارج از حد قابل قبول ميباشد\n", true},
       {"6", false, "", ask + " -> no\n", true},
   };

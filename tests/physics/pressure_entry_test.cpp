@@ -13,12 +13,16 @@ namespace {
 using test::Entry;
 using Nine = std::vector<std::string>;
 
+// The Tehran readings of the dry, wet and attached thermometers.
+void thermometers(Entry& e) {
+  for (auto [b, text] : {std::pair{&e.k.Text27, "20"}, {&e.k.Text28, "12"}, {&e.k.Text13, "20"}}) e.ws.set_text(*b, text);
+}
+
 // "-" is a value not measured: the computation stops without a word.
 TEST(PressureEntry, DashInAnyInputStopsWithoutAWord) {
   for (const char* box : {"Text27", "Text28", "Text13", "txtt12"}) {
     Entry e;
-    for (auto [b, text] : {std::pair{&e.k.Text27, "20"}, {&e.k.Text28, "12"}, {&e.k.Text13, "20"}})
-      e.ws.set_text(*b, text);
+    thermometers(e);
     e.ws.set_text(*e.ws.control(box), "-");
     e.messages();
     e.ws.type(e.k.Text14, "875.4");
@@ -30,8 +34,7 @@ TEST(PressureEntry, DashInAnyInputStopsWithoutAWord) {
 
 TEST(PressureEntry, ComputesAfterEachKeyInTheThermometers) {
   Entry e;
-  for (auto [b, text] : {std::pair{&e.k.Text27, "20"}, {&e.k.Text28, "12"}, {&e.k.Text13, "20"}})
-    e.ws.set_text(*b, text);
+  thermometers(e);
   e.ws.type(e.k.Text14, "875.4");
   e.ws.type(e.k.Text13, "25");  // each key released runs the routine again
   EXPECT_NE(e.k.Text18.text, "871.4");
@@ -44,8 +47,7 @@ TEST(PressureEntry, ComputesAfterEachKeyInTheThermometers) {
 
 TEST(PressureEntry, NegativeVapourPressureEmptiesTheWetBulbAndKeepsTheRest) {
   Entry e;
-  for (auto [b, text] : {std::pair{&e.k.Text27, "20"}, {&e.k.Text28, "12"}, {&e.k.Text13, "20"}})
-    e.ws.set_text(*b, text);
+  thermometers(e);
   e.ws.type(e.k.Text14, "875.4");
   e.ws.set_text(e.k.Text27, "30");
   e.ws.set_text(e.k.Text28, "0.05");
