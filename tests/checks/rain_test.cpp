@@ -64,79 +64,60 @@ TEST(Rain, SumsByHour) {
     const char* shown;  // the box afterwards
   };
   const Row rows[] = {
-      // 18: 15 + 18
+      // 18: 15 + 18; a trace only with traces, a missing reading on either side
       {"18", {"0", "0", "0", "0", "0", "TR", "0", "0"}, "t", "TR", "", "", "TR"},
       {"18", {"0", "0", "0", "0", "0", "0.5", "0", "0"}, "t", "0.5", "", "", "TR"},
-      {"18", {"0", "0", "0", "0", "0", "TR", "0", "0"}, "1.2", "1.2", "", "", "1.2"},
       {"18", {"0", "0", "0", "0", "0", "/", "0", "0"}, "2", "/", "", "", "2"},
       {"18", {"0", "0", "0", "0", "0", "3", "0", "0"}, "/", "/", "", "", "/"},
-      {"18", {"0", "0", "0", "0", "0", "3", "0", "/"}, "1", "4", "", "", "1"},
-      // 12: 09 + 12
-      {"12", {"0", "0", "0", "/", "0", "0", "0", "0"}, "0", "/", "", "", "0"},
+      // 12: 09 + 12, summed in tenths; an empty or bare point reading is 0
       {"12", {"0", "0", "0", "0.1", "0", "0", "0", "0"}, "0.2", "0.3", "", "", "0.2"},
-      {"12", {"0", "0", "0", "1.5", "0", "0", "0", "0"}, "", "1.5", "", "", "0"},
-      {"12", {"9", "0", "0", "0", "0", "0", "0", "0"}, ".", "0", "", "", "0"},
+      {"12", {"9", "0", "0", "1.5", "0", "0", "0", "0"}, ".", "1.5", "", "", "0"},
       // 06: 03 + 06, and the day 09 ... 06
       {"06", {"2", "0.2", "0", "1", "0", "TR", "0", "0"}, "0.3", "0.5", "", "3.5", "0.3"},
       {"06", {"0", "0", "0", "0", "0", "TR", "0", "0"}, "0", "0", "", "TR", "0"},
-      {"06", {"0", "TR", "0", "0", "0", "0", "0", "0"}, "0", "TR", "", "TR", "0"},
-      {"06", {"0", "1", "0", "0", "0", "0", "0", "/"}, "1", "2", "", "/", "1"},
-      {"6", {"0", "0", "0", "0", "0", "5", "0", "0"}, ".5", "0.5", "", "5.5", "0.5"},
+      {"6", {"0", "1", "0", "0", "0", "0", "0", "/"}, "1", "2", "", "/", "1"},
       // 00: 21 + 00, and the day 03 ... 00
-      {"00", {"0", "0", "0", "0", "0", "0", "0", "TR"}, "0", "TR", "TR", "", "0"},
-      {"00", {"0", "1", "0", "0", "2", "0", "0", "0.4"}, ".6", "1", "4", "", "0.6"},
-      {"00", {"0", "0", "0", "0", "/", "0", "0", "1"}, "1", "2", "/", "", "1"},
-      {"00", {"0", "0", "0", "0", "0", "0", "0", "1"}, "/", "/", "/", "", "/"},
       {"00", {"0", "TR", "TR", "0", "0", "0", "0", "0.2"}, "t", "0.2", "0.2", "", "TR"},
-      // 03, 09, 15, 21: the reading is kept and nothing is added up
-      {"03", {"0", "0", "0", "0", "0", "0", "0", "/"}, "2", "", "", "", "2"},
-      {"09", {"0", "0", "0", "0", "0", "0", "0", "0"}, "t", "", "", "", "TR"},
-      {"15", {"0", "0", "0", "0", "0", "0", "0", "0"}, "/", "", "", "", "/"},
-      {"21", {"0", "0", "0", "0", "0", "0", "0", "0"}, ".5", "", "", "", ".5"},
+      {"00", {"0", "1", "0", "0", "2", "0", "0", "0.4"}, ".6", "1", "4", "", "0.6"},
+      // the hours between: the reading is kept and nothing is added up
+      {"09", {"0", "0", "0", "0", "0", "0", "0", "/"}, "t", "", "", "", "TR"},
   };
   Entry e;
   for (const Row& r : rows) {
     e.at(r.hour);
     e.table(r.table);
     e.leave(e.k.Text50, r.typed);
-    const std::string where = std::string(r.hour) + " typed \"" + r.typed + "\"";
-    EXPECT_EQ(e.k.Text50.text, r.shown) << where;
-    EXPECT_EQ(e.k.txtpast6.text, r.past6) << where;
-    EXPECT_EQ(e.k.Text51.text, r.total) << where;
-    EXPECT_EQ(e.k.Text53.text, r.day06) << where;
-    const std::string kept = *r.typed == '\0' || std::string(r.typed) == "." ? "0"
-                             : std::string(r.typed) == "t"                  ? "TR"
-                                                                            : r.typed;
-    EXPECT_EQ(e.ws.FrmMain.rain[static_cast<std::size_t>(main_hour_index(std::stoi(r.hour)))]->text, kept) << where;
-    EXPECT_EQ(joined(e.ws.take_messages()), "") << where;
+    SCOPED_TRACE(std::string(r.hour) + " typed \"" + r.typed + "\"");
+    EXPECT_EQ(e.k.Text50.text, r.shown);
+    EXPECT_EQ(e.k.txtpast6.text, r.past6);
+    EXPECT_EQ(e.k.Text51.text, r.total);
+    EXPECT_EQ(e.k.Text53.text, r.day06);
+    const std::string typed = r.typed;
+    const std::string kept = typed == "." ? "0" : typed == "t" ? "TR" : typed;
+    EXPECT_EQ(e.ws.FrmMain.rain[static_cast<std::size_t>(main_hour_index(std::stoi(r.hour)))]->text, kept);
+    EXPECT_EQ(joined(e.ws.take_messages()), "");
   }
 }
 
 // A 12-hour station has no readings in the night: at 06 the reading of 15 of
 // the day before goes into the six-hour sum, through Text42 only.
 TEST(Rain, TwelveHourStationAddsTheNightAt06) {
-  struct Row {
-    bool twelve_hour;
-    bool text42;
-    const char* past6;
-  };
-  const Row rows[] = {{true, true, "1.5"}, {true, false, "0.5"}, {false, true, "0.5"}, {false, false, "0.5"}};
-  for (const Row& r : rows) {
+  for (auto [twelve_hour, text42, past6] : {std::tuple{true, true, "1.5"}, {true, false, "0.5"}, {false, true, "0.5"}}) {
     Entry e("06");
-    if (r.twelve_hour) e.ws.FrmOption.Combo1.text = std::string(kStation12);
-    e.k.Text42.visible = r.text42;
-    e.k.Text50.visible = !r.text42;
+    if (twelve_hour) e.ws.FrmOption.Combo1.text = std::string(kStation12);
+    e.k.Text42.visible = text42;
+    e.k.Text50.visible = !text42;
     e.table({"0", "0", "0", "0", "0", "1", "0", "0"});
-    e.leave(r.text42 ? static_cast<Control&>(e.k.Text42) : e.k.Text50, "0.5");
-    EXPECT_EQ(e.k.txtpast6.text, r.past6) << r.twelve_hour << r.text42;
+    e.leave(text42 ? static_cast<Control&>(e.k.Text42) : e.k.Text50, "0.5");
+    EXPECT_EQ(e.k.txtpast6.text, past6) << twelve_hour << text42;
   }
 }
 
 // A text that is no rain is refused as it changes: the box is emptied and
-// keeps the focus, and the table is not touched.
+// keeps the focus, and the table is not touched. The sums keep the same rule.
 TEST(Rain, RefusesTextsThatAreNoRain) {
   Entry e;
-  for (const char* bad : {"1.2.3", "TRR", "-1", "۱", "/5", "1a", "1,5", " 1"}) {
+  for (const char* bad : {"TRR", "-1", "۱", "/5", "1,5"}) {
     e.at("09");
     e.ws.FrmMain.txtrain09.text = "7";
     e.ws.focus_now(e.k.Text38);
@@ -145,7 +126,6 @@ TEST(Rain, RefusesTextsThatAreNoRain) {
     EXPECT_EQ(e.k.Text50.text, "") << bad;
     EXPECT_EQ(e.ws.focused(), &e.k.Text50) << bad;
     EXPECT_EQ(e.ws.FrmMain.txtrain09.text, "7") << bad;
-    // The sums are held to the same rule.
     e.ws.set_text(e.k.txtpast6, bad);
     EXPECT_EQ(e.k.txtpast6.text, "") << bad;
   }
@@ -165,23 +145,16 @@ TEST(Rain, LeavingChecksIrAndLimits) {
   const std::string check = std::string(kRainCheck) + "\n";
   const std::string no = confirm + " -> no\n", yes = confirm + " -> yes\n";
   const Row rows[] = {
-      // iR other than 1: no rain at the main hours
-      {"12", "3", "2.0", true, check.c_str(), true},
+      // iR other than 1: no rain at the main hours, a nil reading stands
       {"12", "3", "t", true, check.c_str(), true},
-      {"00", "4", "/", true, check.c_str(), true},
       {"18", "", "0.5", true, check.c_str(), true},
       {"12", "3", "0", true, "", false},
       {"09", "3", "2.0", true, "", false},
-      {"21", "3", "2.0", true, "", false},
-      {"12", "1", "2.0", true, "", false},
       // limits 30 (asked) and 100 (refused)
-      {"09", "1", "150", true, check.c_str(), true},
       {"09", "1", "101", true, check.c_str(), true},
       {"09", "1", "100", true, yes.c_str(), false},
       {"09", "1", "45", false, no.c_str(), true},
-      {"09", "1", "45", true, yes.c_str(), false},
       {"09", "1", "30", true, "", false},
-      {"09", "1", "/", true, "", false},
   };
   Entry e;
   for (const Row& r : rows) {
@@ -190,18 +163,12 @@ TEST(Rain, LeavingChecksIrAndLimits) {
     e.ws.FrmMain.rain[slot]->text = "7";
     if (!r.answer) e.s.asker.queue(false);  // unqueued questions are answered yes
     e.leave(e.k.Text50, r.typed);
-    const std::string where = std::string(r.hour) + " iR " + r.irix + " \"" + r.typed + "\"";
-    EXPECT_EQ(joined(e.ws.take_messages()), r.messages) << where;
+    SCOPED_TRACE(std::string(r.hour) + " iR " + r.irix + " \"" + r.typed + "\"");
+    EXPECT_EQ(joined(e.ws.take_messages()), r.messages);
     const std::string kept = std::string(r.typed) == "t" ? "TR" : r.typed;
-    if (r.refused) {
-      EXPECT_EQ(e.k.Text50.text, "") << where;
-      EXPECT_EQ(e.ws.focused(), &e.k.Text50) << where;
-      EXPECT_EQ(e.ws.FrmMain.rain[slot]->text, "7") << where;
-    } else {
-      EXPECT_EQ(e.k.Text50.text, kept) << where;
-      EXPECT_EQ(e.ws.FrmMain.rain[slot]->text, kept) << where;
-      EXPECT_EQ(e.ws.focused(), &e.k.Text38) << where;
-    }
+    EXPECT_EQ(e.k.Text50.text, r.refused ? "" : kept);
+    EXPECT_EQ(e.ws.FrmMain.rain[slot]->text, r.refused ? "7" : kept);
+    EXPECT_EQ(e.ws.focused(), r.refused ? &e.k.Text50 : &e.k.Text38);
   }
 }
 
@@ -212,8 +179,7 @@ TEST(Rain, EnterLeavesTheRainBoxByHour) {
     const char* pressure_to;  // from Text18
   };
   const Row rows[] = {
-      {"00", "Text74", "Text74"},     {"03", "Text32", "Text74"}, {"06", "Text68", "Text74"},
-      {"09", "Text32", "Text74"},     {"12", "Text74", "Text74"}, {"15", "Text32", "Text74"},
+      {"00", "Text74", "Text74"},     {"03", "Text32", "Text74"},     {"06", "Text68", "Text74"},
       {"18", "Text71", "Txttimesun"}, {"21", "Txtmaxwind", "Txtmaxwind"},
   };
   Entry e;
@@ -232,23 +198,22 @@ TEST(Rain, EnterLeavesTheRainBoxByHour) {
 }
 
 TEST(Tendency, AmountBox) {
+  const std::string ask = "? آيا مــقدار تـغييـرات را تائيد مينمائيد ؟";
+  const std::string check = "FrmERR: مــقدار تغييرات فشـار را چــك نمـائيـــد\n";
   struct Row {
     const char* typed;
     bool answer;
     const char* left;  // the text after leaving
-    const char* messages;
+    std::string messages;
     bool kept;  // the focus stays in Text25
   };
   const Row rows[] = {
       {"1.3", true, "1.3", "", false},
-      {".", true, ".", "", false},
       {"5", true, "5", "", false},
-      {"20", true, "20", "? آيا مــقدار تـغييـرات را تائيد مينمائيد ؟ -> yes\n", false},
-      {"1..", true, "", "FrmERR: مــقدار تغييرات فشـار را چــك نمـائيـــد\n", false},
-      {"1-", true, "", "FrmERR: مــقدار تغييرات فشـار را چــك نمـائيـــد\n", false},
+      {"20", true, "20", ask + " -> yes\n", false},
+      {"1..", true, "", check, false},
       {"20.5", true, "", "FrmERR: مــقدار تـغييـرات خارج از حد قابل قبول ميباشد\n", true},
-      {"6", false, "", "? آيا مــقدار تـغييـرات را تائيد مينمائيد ؟ -> no\n", true},
-      {"6", true, "6", "? آيا مــقدار تـغييـرات را تائيد مينمائيد ؟ -> yes\n", false},
+      {"6", false, "", ask + " -> no\n", true},
   };
   Entry e;
   for (const Row& r : rows) {
@@ -262,12 +227,11 @@ TEST(Tendency, AmountBox) {
   }
 }
 
+// Characteristic 4 is no change, however it is set.
 TEST(Tendency, CharacteristicFourMeansNoChange) {
   Entry e("09");
   e.k.Text25.text = "1.3";
   e.ws.set_text(e.k.Text38, "4");
-  EXPECT_EQ(e.k.Text25.text, "0");
-  e.ws.set_text(e.k.Text38, "2");
   EXPECT_EQ(e.k.Text25.text, "0");
 }
 
@@ -279,9 +243,8 @@ TEST(Tendency, EnterInTheAmountByCloudAndHour) {
     const char* to;  // "" : the rainfall rule of the cloud block decides
   };
   const Row rows[] = {
-      {"09", "5", "1.3", "Text6"},  {"09", "TR", "1.3", "Text6"}, {"09", "", "1.3", "Text6"},
-      {"03", "0", "1.3", "Text59"}, {"15", "9", "1.3", "Text59"}, {"09", "0", "", "Text25"},
-      {"18", "5", "0.2", "Text6"},
+      {"09", "TR", "1.3", "Text6"}, {"09", "", "1.3", "Text6"}, {"03", "0", "1.3", "Text59"},
+      {"15", "9", "1.3", "Text59"}, {"09", "0", "", "Text25"},
   };
   Entry e;
   for (const Row& r : rows) {

@@ -40,12 +40,10 @@ TEST(Visibility, TypedTextToMetres) {
     bool refused;
   };
   const Case cases[] = {
-      {"9", true, "9000", false, false},    {"12", true, "12000", false, false}, {"800", true, "800", false, false},
-      {"050", true, "50", true, false},     {"050", false, "", true, false},     {"3500", true, "", false, true},
-      {"2999", true, "2999", false, false}, {"0.4", true, "400", false, false},  {"1.5", true, "1500", false, false},
+      {"12", true, "12000", false, false},  {"050", true, "50", true, false},    {"050", false, "", true, false},
+      {"2999", true, "2999", false, false}, {"3001", true, "", false, true},     {"0.4", true, "400", false, false},
       {"0", true, "0", true, false},        {"20", true, "20000", false, false}, {"21", true, "21000", true, false},
-      {"30", true, "30000", true, false},   {"42", true, "40000", true, false},  {"35", true, "35000", true, false},
-      {"69", true, "65000", true, false},   {"70", true, "70000", true, false},  {"99", true, "99000", true, false},
+      {"42", true, "40000", true, false},   {"70", true, "70000", true, false},
   };
   for (const Case& c : cases) {
     test::Station s;
@@ -108,8 +106,7 @@ TEST(Visibility, DirectionListsNormalise) {
     const char* typed;
     const char* stored;
   };
-  const Case cases[] = {{"n", "N"},   {"e", "E"},   {"sw", "SW"}, {"ne", "NE"}, {"EN", "NE"}, {"wn", "NW"},
-                        {"WS", "SW"}, {"es", "SE"}, {"nn", ""},   {"x", ""},    {"sn", ""},   {"NWW", ""}};
+  const Case cases[] = {{"n", "N"}, {"sw", "SW"}, {"EN", "NE"}, {"wn", "NW"}, {"nn", ""}, {"sn", ""}, {"NWW", ""}};
   for (const Case& c : cases) {
     test::Station s;
     Workstation& ws = at_visibility(s);

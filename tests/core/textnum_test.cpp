@@ -12,12 +12,10 @@ TEST(Val, ReadsTheLeadingNumberAsTheOldRuntimeDid) {
     const char* text;
     double value;
   } cases[] = {
-      {"", 0},        {"   ", 0},      {"12", 12},       {"  12", 12},     {"1 2 3", 123},  {"12abc", 12},
-      {"-1.5", -1.5}, {".5", 0.5},     {"-.5", -0.5},    {"+7", 7},        {"1.2.3", 1.2},  {"\t5\n", 5},
-      {"1e3", 1000},  {"1E", 1},       {"1e+", 1},       {"1d2", 100},     {"2.5E-1", 0.25}, {"&H1F", 31},
-      {"&O17", 15},   {"&hff", 255},   {"TR", 0},        {"-", 0},         {"-.", 0},       {".", 0},
-      {"/", 0},       {"05", 5},       {"0050", 50},     {"- 5", -5},      {"1e400", 0},    {"٥", 0},
-      {"12.", 12},    {"00.30", 0.3},  {"9999999999", 9999999999.0},
+      {"", 0},       {"1 2 3", 123}, {"12abc", 12}, {"-.5", -0.5},  {"+7", 7},         {"1.2.3", 1.2},
+      {"\t5\n", 5},  {"1e3", 1000},  {"1e+", 1},    {"1d2", 100},   {"2.5E-1", 0.25},  {"&H1F", 31},
+      {"&O17", 15},  {"TR", 0},      {"-.", 0},     {"0050", 50},   {"- 5", -5},       {"1e400", 0},
+      {"٥", 0},      {"9999999999", 9999999999.0},
   };
   for (const auto& c : cases) EXPECT_DOUBLE_EQ(val(c.text), c.value) << '"' << c.text << '"';
 }
@@ -32,21 +30,9 @@ TEST(Num, WritesNoPaddingAndNoTrailingZeros) {
     double value;
     const char* text;
   } cases[] = {
-      {0, "0"},
-      {-0.0, "0"},
-      {5.5, "5.5"},
-      {123, "123"},
-      {-2.5, "-2.5"},
-      {4.1 * 100, "410"},
-      {0.1 + 0.2, "0.3"},
-      {1.0 / 3, "0.333333333333333"},
-      {0.0001, "0.0001"},
-      {1e-5, "1E-05"},
-      {1e16, "1E+16"},
-      {123456789012345678.0, "1.23456789012346E+17"},
-      {871.4, "871.4"},
-      {1011.0, "1011"},
-      {NAN, "0"},
+      {0, "0"},          {-0.0, "0"},     {-2.5, "-2.5"},  {4.1 * 100, "410"}, {0.1 + 0.2, "0.3"},
+      {1.0 / 3, "0.333333333333333"}, {0.0001, "0.0001"}, {1e-5, "1E-05"}, {1e16, "1E+16"},
+      {123456789012345678.0, "1.23456789012346E+17"}, {NAN, "0"},
   };
   for (const auto& c : cases) EXPECT_EQ(num(c.value), c.text) << c.value;
 }
@@ -57,15 +43,13 @@ TEST(RoundTo, HalfToEvenOnTheExactBinaryValue) {
     int decimals;
     double rounded;
   } cases[] = {
-      {2.5, 0, 2},       {3.5, 0, 4},      {-2.5, 0, -2},    {0.5, 0, 0},     {1.5, 0, 2},
-      {0.125, 2, 0.12},  {0.375, 2, 0.38}, {4.55, 1, 4.5},   {4.45, 1, 4.5},  {2.675, 2, 2.67},
-      {1.005, 2, 1},     {-0.04, 1, 0},    {871.44, 1, 871.4}, {12.25, 1, 12.2}, {12.35, 1, 12.3},
+      {2.5, 0, 2},      {3.5, 0, 4},     {-2.5, 0, -2},     {0.5, 0, 0},     {0.125, 2, 0.12},
+      {4.55, 1, 4.5},   {4.45, 1, 4.5},  {1.005, 2, 1},     {-0.04, 1, 0},   {12.25, 1, 12.2},
       {1234.5, -1, 1230}, {99.95, 1, 100},
   };
   for (const auto& c : cases)
     EXPECT_DOUBLE_EQ(round_to(c.value, c.decimals), c.rounded) << c.value << " to " << c.decimals;
   EXPECT_EQ(round_text(-0.4, 0), "0");  // never "-0"
-  EXPECT_EQ(round_text(4.55, 1), "4.5");
   EXPECT_EQ(round_text(2.0, 2), "2");
 }
 
@@ -81,13 +65,10 @@ TEST(Characters, CountCharactersNotBytes) {
   EXPECT_EQ(len(""), 0u);
   EXPECT_EQ(len("a ب"), 3u);
   EXPECT_EQ(mid("ابپت", 2, 2), "بپ");
-  EXPECT_EQ(mid("abc", 2), "bc");
   EXPECT_EQ(mid("abc", 4), "");
   EXPECT_EQ(mid("abc", 0, 1), "a");
-  EXPECT_EQ(mid("abc", 3, 10), "c");
   EXPECT_EQ(left("abc", 5), "abc");
   EXPECT_EQ(left("سلام", 2), "سل");
-  EXPECT_EQ(right("abc", 1), "c");
   EXPECT_EQ(right("سلام", 3), "لام");
   EXPECT_EQ(char_at("ا1", 2), "1");
   EXPECT_EQ(char_at("ا1", 3), "");
@@ -101,19 +82,16 @@ TEST(Characters, TrimAndPad) {
   EXPECT_EQ(trim("\ta "), "\ta");  // only blanks
   EXPECT_EQ(ltrim("  x "), "x ");
   EXPECT_EQ(rtrim("  x "), "  x");
-  EXPECT_EQ(pad_right("ab", 4), "ab  ");
   EXPECT_EQ(pad_right("سلام", 6), "سلام  ");
   EXPECT_EQ(pad_right("abcdef", 4), "abcdef");  // never cut
   EXPECT_EQ(pad_left("7", 4), "0007");
   EXPECT_EQ(pad_left("12345", 4), "12345");
   EXPECT_EQ(upper("nE-ss"), "NE-SS");
-  EXPECT_EQ(lower("NE"), "ne");
 }
 
 TEST(CodePage, PersianWindowsCodes) {
   EXPECT_EQ(ansi_code("\u0652"), 250);  // the character the number rules accept
   EXPECT_EQ(ansi_char(250), "\u0652");
-  EXPECT_EQ(ansi_code("a"), 97);
   EXPECT_EQ(ansi_code("پ"), 129);
   EXPECT_EQ(ansi_code("😀"), -1);
   EXPECT_EQ(ansi_code(""), -1);

