@@ -51,19 +51,6 @@ void worked_example(Workstation& ws) {
            {"Txtmaxwind", "     "}, {"Image1", "ww02"}, {"Image2", "W0"}});
 }
 
-TEST(SynopReport, TheWorkedExampleFromGroupsToText) {
-  const WindGroups wind = wind_groups("5", "240", "4");
-  const std::string text = join_synop(
-      {"32" + *cloud_base_figure(600) + visibility_code(8000), wind.nddff, "     ", *signed_tenths_group("1", "25.4"),
-       *signed_tenths_group("2", "12.1"), pressure_group("3", "1012.5"), pressure_group("4", "1015.0"),
-       tendency_group("3", "1.2"), *rain_group("0", "12", kStation24), "     ",
-       cloud_group("3", "CU     1", "       0", "       0", "0"), "333", "     ", "     ", "     ", "     ", "     ",
-       "     ", "     ", "     ", "     ", "     ", "     ", "     "},
-      "");
-  EXPECT_EQ(text, "32558 52404 10254 20121 30125 40150 53012 60001 83100 333=");
-  EXPECT_EQ(join_synop({"     ", "52404", "", "333"}, "QNT"), "52404 333 QNT=");
-}
-
 TEST(SynopReport, WholeRunFromTheBoxesToTheLines) {
   test::Station s;
   Workstation& ws = s.open_entry();
@@ -240,51 +227,26 @@ TEST(SynopReport, AReportAfterMidnightTakesTheNextDay) {
   EXPECT_EQ(ws.FrmCode.TXTgolbad.text.substr(0, 13), "4075424022900");
 }
 
-TEST(SynopReport, TwelveHourStationLines) {
-  struct Case {
-    const char* hour;
-    std::size_t at;
-    const char* group;
-  };
-  const Case table[] = {{"18", 107, "55125"}, {"21", 150, "16012"}, {"00", 14, "     "}};
-  for (const Case& c : table) {
+// A 12-hour station codes its masked hours with cmdsynop1218; at 15 h on the
+// clock the date steps for the 18 and 21 UTC lines, not for 00.
+TEST(SynopReport, TwelveHourStationLinesTakeTheDateOfTheClock) {
+  const std::pair<const char*, const char*> table[] = {{"18", "21"}, {"21", "21"}, {"00", "20"}};
+  for (const auto& [hour, day] : table) {
     test::Station s({2024, 3, 20, 15, 10, 0});
     Workstation& ws = s.open_entry();
     ws.FrmOption.Combo1.text = std::string(kStation12);
     worked_example(ws);
-    put(ws, {{"Text1", c.hour}, {"Txttimesun", "12.5"}, {"Txtmaxwind", "16012"}, {"Txttond", "17020"}});
+    put(ws, {{"Text1", hour}});
     ws.FrmKashf.ZAKHIREH.enabled = false;
     ws.FrmKashf.cmdsynop1218.visible = true;  // shown for this station at these hours
     ws.click(ws.FrmKashf.cmdsynop1218);
-    const std::string& line = ws.FrmCode.TXTSCDATA.text;
-    EXPECT_EQ(line.size(), 200u) << c.hour;
-    EXPECT_EQ(ws.FrmCode.TXTTEDAD.text, "200") << c.hour;
-    // At 15 h on the clock the day steps for 18 and 21 UTC, not for 00.
-    const std::string day = std::string(c.hour) == "00" ? "20" : "21";
-    EXPECT_EQ(line.substr(0, 14), "2407542403" + day + c.hour) << c.hour;
-    EXPECT_EQ(line.substr(c.at, 5), c.group) << c.hour;
-    EXPECT_EQ(line.find_first_not_of(' ', 14), c.hour == std::string("00") ? std::string::npos : c.at) << c.hour;
-    EXPECT_TRUE(ws.FrmKashf.ZAKHIREH.enabled) << c.hour;
-    EXPECT_FALSE(ws.FrmKashf.cmdsynop1218.enabled) << c.hour;
-    EXPECT_EQ(ws.take_messages(), std::vector<std::string>{}) << c.hour;
+    EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(0, 14), std::string("2407542403") + day + hour) << hour;
+    EXPECT_EQ(ws.FrmCode.TXTDAYmi.text, day) << hour;
+    EXPECT_TRUE(ws.FrmKashf.ZAKHIREH.enabled) << hour;
+    EXPECT_FALSE(ws.FrmKashf.cmdsynop1218.enabled) << hour;
+    EXPECT_EQ(ws.take_messages(), std::vector<std::string>{}) << hour;
   }
-  // The 21 line holds both winds; the date steps at 15 h on the clock.
-  test::Station s({2024, 3, 20, 15, 10, 0});
-  Workstation& ws = s.open_entry();
-  ws.FrmOption.Combo1.text = std::string(kStation12);
-  worked_example(ws);
-  put(ws, {{"Text1", "21"}, {"Txtmaxwind", "16012"}, {"Txttond", "17020"}, {"Text4", ""}});
-  ws.FrmKashf.cmdsynop1218.visible = true;
-  ws.click(ws.FrmKashf.cmdsynop1218);
-  EXPECT_EQ(ws.FrmCode.TXTSCDATA.text.substr(150, 10), "1601217020");
-  EXPECT_EQ(ws.FrmCode.TXTDAYmi.text, "21");
 }
-
-}  // namespace
-}  // namespace obsdesk
-
-namespace obsdesk {
-namespace {
 
 // A full 06 UTC report of a 24-hour station, with a CB layer, the ground,
 // the pan, the 24-hour rain and the upper-air slot.
