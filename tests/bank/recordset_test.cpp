@@ -139,11 +139,5 @@ TEST_F(Rows, OpeningToldByTheFileName) {
   }
 }
 
-TEST(LikePattern, TheOldWildcardsBecomeSql) {
-  EXPECT_EQ(like_to_sql("*0501*"), "%0501%");
-  EXPECT_EQ(like_to_sql("a?b"), "a_b");
-  EXPECT_EQ(like_to_sql("50%_\\"), "50\\%\\_\\\\");
-}
-
 }  // namespace
 }  // namespace obsdesk
