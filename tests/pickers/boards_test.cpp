@@ -25,9 +25,9 @@ TEST(PastHourWeather, WritesTheBoxAndTheUnblockedPanel) {
     bool open;
   };
   const Case cases[] = {
-      {62, "SN", "RERA", "RERA", false},  // rain still falling would keep the panel
-      {73, "+SN", "RESN", "old", false},   // so does heavy or light snow for 72 to 75
-      {75, "SN", "RESN", "RESN", false},   // but not plain snow
+      {62, "SN", "RERA", "RERA", false},  // only rain still falling keeps the panel
+      {73, "+SN", "RESN", "old", false},   // heavy or light snow keeps it for 72 to 75
+      {75, "SN", "RESN", "RESN", false},   // plain snow does not
       {40, "", "BCFG", "old", false},    // no recent group for fog banks
       {48, "", "FZFFG", "old", false},
       {0, "", "***", "old", false},
@@ -221,7 +221,6 @@ TEST(GroundState, ButtonsWriteTheGroupsOfSectionThree) {
   };
   const Case cases[] = {
       {5, "/", "35///", "     ", "0"},  // the kept slip: the state reads "0" on this branch
-      {0, "/", "30///", "     ", "0"},
       {5, "-3.2", "35103", "     ", "5"},
       {15, "/", "3////", "45012", "5"},
       {19, "-3.2", "3/103", "49012", "9"},
