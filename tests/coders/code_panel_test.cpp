@@ -12,13 +12,11 @@ namespace obsdesk {
 namespace {
 
 TEST(CodePanel, DerivedWind) {
-  struct Case {
-    const char* nddff;
-    std::optional<std::string> dddff;
+  const std::pair<const char*, std::optional<std::string>> table[] = {
+      {"52404", "24004"}, {"59903", "00000"}, {"     ", std::nullopt}, {"50000", "00000"}, {"80512", "05012"},
+      {"336//", "360//"},
   };
-  const Case table[] = {{"52404", "24004"}, {"59903", "00000"}, {"     ", std::nullopt},
-                        {"50000", "00000"}, {"80512", "05012"}, {"336//", "360//"}};
-  for (const Case& c : table) EXPECT_EQ(derived_wind(c.nddff), c.dddff) << c.nddff;
+  for (const auto& [nddff, dddff] : table) EXPECT_EQ(derived_wind(nddff), dddff) << nddff;
 }
 
 TEST(CodePanel, MirrorCountAndDerivedWindOnTheScreen) {

@@ -7,10 +7,7 @@ namespace obsdesk {
 namespace {
 
 TEST(ModuleNim, RoundsEveryBandWithHalvesUpward) {
-  const struct {
-    const char* t;
-    const char* group;
-  } table[] = {
+  const std::pair<const char*, const char*> table[] = {
       {"0", "00"},      {"-0", "00"},
       // below zero, first band: -0.4 and -0.5 both give "M00", apart from plain 0
       {"-0.1", "M00"},  {"-0.5", "M00"},  {"-0.6", "M01"},
@@ -21,7 +18,7 @@ TEST(ModuleNim, RoundsEveryBandWithHalvesUpward) {
       // above zero
       {"0.4", "00"},    {"0.5", "01"},    {"2.5", "03"},    {"12.5", "13"},   {"46.5", "47"},
   };
-  for (const auto& row : table) EXPECT_EQ(module_nim(row.t), row.group) << row.t;
+  for (const auto& [t, group] : table) EXPECT_EQ(module_nim(t), group) << t;
 }
 
 TEST(ModuleNim, RefusesTextThatIsNoNumber) {
@@ -59,15 +56,12 @@ TEST(VisibilityGroup, FollowsTheStepsOfTheTable) {
 }
 
 TEST(VerticalVisibility, ThirtyMetreStepsThenThreeHundred) {
-  const struct {
-    const char* vv;
-    const char* group;
-  } table[] = {
+  const std::pair<const char*, const char*> table[] = {
       {"", ""},          {"/", "VV///"},      {"//", "VV///"},   {"0", "VV000"},    {"60", "VV002"},
       {"299", "VV009"},  {"300", "VV010"},    {"1500", "VV050"}, {"1600", "VV050"}, {"1800", "VV056"},
       {"9000", "VV080"}, {"9500", ""},
   };
-  for (const auto& row : table) EXPECT_EQ(metar_vertical_visibility(row.vv), row.group) << row.vv;
+  for (const auto& [vv, group] : table) EXPECT_EQ(metar_vertical_visibility(vv), group) << vv;
 }
 
 TEST(TimeGroup, LooksBackToTheTenthMinuteBeforeTheHour) {
@@ -120,11 +114,10 @@ TEST(SmallGroups, SectorPressureAndHeights) {
   EXPECT_EQ(qnh_group(""), "");
   EXPECT_EQ(altimeter_group("29.92"), "A2992");
   EXPECT_EQ(altimeter_group(""), "");
-  const struct {
-    const char* metres;
-    const char* hundreds_of_feet;
-  } heights[] = {{"600", "020"}, {"30", "001"}, {"0", "000"}, {"3000", "100"}, {"15000", "500"}};
-  for (const auto& h : heights) EXPECT_EQ(cloud_height(h.metres), h.hundreds_of_feet) << h.metres;
+  const std::pair<const char*, const char*> heights[] = {
+      {"600", "020"}, {"30", "001"}, {"0", "000"}, {"3000", "100"}, {"15000", "500"},
+  };
+  for (const auto& [metres, hundreds_of_feet] : heights) EXPECT_EQ(cloud_height(metres), hundreds_of_feet) << metres;
   EXPECT_EQ(cover(0), "FEW");
   EXPECT_EQ(cover(4), "SCT");
   EXPECT_EQ(cover(7), "BKN");

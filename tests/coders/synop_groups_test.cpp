@@ -35,27 +35,20 @@ TEST(SynopWind, DirectionSpeedAndTheMarkOfAHundred) {
 }
 
 TEST(SynopVisibility, EveryBandAndItsEdges) {
-  struct Case {
-    double vh;
-    const char* vv;
-  };
-  const Case table[] = {
+  const std::pair<double, const char*> table[] = {
       {99, "00"},     {100, "01"},    {250, "02"},     {350, "04"},    {999, "10"},    {5000, "50"},
       {5001, "55"},   {29999, "79"},  {30000, "80"},   {35000, "81"},  {70000, "88"},  {70001, "89"},
       {32000, "32000"},  // between the 5 km steps above 30 km the metres stand
   };
-  for (const Case& c : table) EXPECT_EQ(visibility_code(c.vh), c.vv) << c.vh;
+  for (const auto& [vh, vv] : table) EXPECT_EQ(visibility_code(vh), vv) << vh;
 }
 
 TEST(SynopCloudBase, HeightBandsAndTheShortGroupAtZero) {
-  struct Case {
-    double h;
-    const char* figure;
+  const std::pair<double, const char*> table[] = {
+      {0, ""}, {1, "0"}, {49, "0"}, {50, "1"}, {100, "2"}, {200, "3"}, {300, "4"}, {600, "5"}, {1000, "6"},
+      {1500, "7"}, {2000, "8"}, {2499, "8"}, {2500, "9"},
   };
-  const Case table[] = {{0, ""},    {1, "0"},     {49, "0"},    {50, "1"},    {100, "2"},  {200, "3"},
-                        {300, "4"}, {600, "5"},   {1000, "6"},  {1500, "7"},  {2000, "8"}, {2499, "8"},
-                        {2500, "9"}};
-  for (const Case& c : table) EXPECT_EQ(cloud_base_figure(c.h), std::optional<std::string>(c.figure)) << c.h;
+  for (const auto& [h, figure] : table) EXPECT_EQ(cloud_base_figure(h), std::optional<std::string>(figure)) << h;
   EXPECT_EQ(cloud_base_figure(-5), std::nullopt);
 }
 
@@ -116,12 +109,10 @@ TEST(SynopRain, BandsHourAndStationKind) {
 }
 
 TEST(SynopRain, HalvesReadFromTheText) {
-  struct Case {
-    const char* text;
-    double value;
+  const std::pair<const char*, double> table[] = {
+      {"2.5", 3}, {"3.5", 4}, {"2.4", 2}, {"7", 7}, {"0.5", 0.5}, {"20.5", 20}, {"22.5", 23},
   };
-  const Case table[] = {{"2.5", 3}, {"3.5", 4}, {"2.4", 2}, {"7", 7}, {"0.5", 0.5}, {"20.5", 20}, {"22.5", 23}};
-  for (const Case& c : table) EXPECT_DOUBLE_EQ(round_rain_text(c.text), c.value) << c.text;
+  for (const auto& [text, value] : table) EXPECT_DOUBLE_EQ(round_rain_text(text), value) << text;
 }
 
 TEST(SynopCloudGroup, FiguresTracesAndTheMiddleCloudCase) {

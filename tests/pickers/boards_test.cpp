@@ -361,25 +361,23 @@ TEST(EntryPictures, TheIrIxBoxOpensItsBoard) {
 }
 
 TEST(EntryPictures, ADoubleClickOffersTheSkyLetters) {
-  struct Case {
-    const char* image;
-    std::string box;
+  const std::pair<const char*, std::string> cases[] = {
+      {"Image1", "TXTWW4"}, {"Image2", "TXTWW5"}, {"Image8", "TXTWW3"}, {"Image7", "TXTWW2"},
   };
-  const Case cases[] = {{"Image1", "TXTWW4"}, {"Image2", "TXTWW5"}, {"Image8", "TXTWW3"}, {"Image7", "TXTWW2"}};
-  for (const Case& c : cases) {
+  for (const auto& [image, box] : cases) {
     test::Station s;
     Workstation& ws = s.open_entry();
     FrmKashf& k = ws.FrmKashf;
     k.Frame12.visible = k.Frame17.visible = true;
     k.Text5.text = "9";
-    ws.dbl_click(s.at(c.image));
-    EXPECT_FALSE(ws.FrmFeali.visible) << c.image;
-    EXPECT_FALSE(ws.FrmGozashteh.visible) << c.image;
-    EXPECT_FALSE(ws.Frmgozashteh1.visible) << c.image;
-    ASSERT_TRUE(ws.FrmBCOBCOY.visible) << c.image;
+    ws.dbl_click(s.at(image));
+    EXPECT_FALSE(ws.FrmFeali.visible) << image;
+    EXPECT_FALSE(ws.FrmGozashteh.visible) << image;
+    EXPECT_FALSE(ws.Frmgozashteh1.visible) << image;
+    ASSERT_TRUE(ws.FrmBCOBCOY.visible) << image;
     ws.click(*ws.FrmBCOBCOY.letter("o"));
-    EXPECT_EQ(s.at("FrmDisplayKashf." + c.box).text, " o") << c.image;
-    EXPECT_EQ(s.at(c.image).text, "sky_o") << c.image;
+    EXPECT_EQ(s.at("FrmDisplayKashf." + box).text, " o") << image;
+    EXPECT_EQ(s.at(image).text, "sky_o") << image;
   }
 }
 
