@@ -74,6 +74,8 @@ TEST(Save, ASynopRollsThePastHoursAndKeepsTheRow) {
   EXPECT_EQ(b.TXTNAM.text, pad_right("علي محمدي", 30));
   // The code panel is back to its blank groups.
   EXPECT_EQ(ws.FrmCode.Text76.text, "     ");
+  EXPECT_EQ(ws.FrmCode.Text75.text, "  ");
+  EXPECT_EQ(ws.FrmCode.Text103.text, "   ");
   EXPECT_EQ(ws.FrmCode.TXTYYGG.text, "");
 
   ws.click(b.save);

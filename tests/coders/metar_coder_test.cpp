@@ -42,6 +42,17 @@ struct Entry {
   }
 };
 
+// The scenarios hold the worked example's text; here what the coding opens
+// and keeps beside it.
+TEST(MetarCoder, CodingOpensTheObserverAndKeepsTheLowestCloud) {
+  Entry e(kMetar);
+  e.ws.FrmKashf.Combo7.enabled = false;  // as the entry rules leave it before a report is coded
+  EXPECT_TRUE(e.click(e.ws.FrmKashf.Command4).empty());
+  EXPECT_EQ(e.ws.METAR_coded, 1);
+  EXPECT_TRUE(e.ws.FrmKashf.Combo7.enabled);
+  EXPECT_EQ(e["TEXTMIN"], "600");
+}
+
 TEST(SpeciCoder, SplitsIntoItsOwnLines) {
   Entry e(kSpeci, {{"Text5", "6"}, {"txt1", "7"}, {"Text2", "240"}, {"Text3", "10"}, {"TXTGUSTY", "15"}, {"Text40", "200"},
                    {"Text39", "280"}, {"Text6", "2"}, {"Text8", "3"}, {"Combo2", "SC     4"}, {"Text9", "900"},

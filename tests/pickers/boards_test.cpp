@@ -31,6 +31,7 @@ TEST(PastHourWeather, WritesTheBoxAndTheUnblockedPanel) {
       {40, "", "BCFG", "old", false},    // no recent group for fog banks
       {48, "", "FZFFG", "old", false},
       {0, "", "***", "old", false},
+      {9, "", "", "old", false},  // written as nothing at all
       {99, "TSGR", "RETSGR", "RETSSA", false},  // the block list of 98
       {99, "TSSA", "RETSGR", "old", false},
       {28, "", "", "old", true},  // refused, board stays
@@ -314,12 +315,19 @@ TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
   EXPECT_EQ(present_weather_code(ws), 63);
   ws.click(k.Image10);  // filled: emptied, no board
   EXPECT_FALSE(ws.FrmFeali.visible);
+  EXPECT_EQ(k.Image10.text, "");
+  EXPECT_EQ(ws.FrmDisplayKashf.TXTWW1.text, "");
   EXPECT_EQ(ws.FrmCode.Text4.text, "");
   EXPECT_EQ(present_weather_code(ws), -1);
   ws.click(k.Image1);
   ws.click(*ws.FrmFeali.buttons.P[2]);
   EXPECT_EQ(ws.FrmCode.Text85.text, "     ");
   EXPECT_EQ(present_weather_code(ws), 2);
+  ws.click(k.Image7);
+  ws.click(*ws.FrmGozashteh.buttons.P[21]);
+  EXPECT_EQ(ws.FrmCode.Text2.text, "RERA");
+  ws.click(k.Image7);  // emptied with its panel group
+  EXPECT_EQ(ws.FrmCode.Text2.text, "");
 
   // Cancel on the recent place puts it away; Image4 brings it back.
   ws.click(k.Image8);
