@@ -1,5 +1,6 @@
 // The present weather board: every code on each of its three boxes under an
-// observation that lets it through, then each test and gate on its own.
+// observation that lets it through, then each test and gate on its own, and the
+// rows of its table that look like slips.
 #include <gtest/gtest.h>
 
 #include <string>
