@@ -39,6 +39,7 @@ void FrmDisplayKashf_load(Workstation& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.set(b.Text44, station_heading(ws));
   b.KASHF.open(ws, resolve_bank_path(ws.bank_root(), ws.FrmMain.txtpathnamebank1.text), "KASHF");
+  b.KASHF.rs.commit_without_waiting();
   b.KASHF.move_last(ws);
 }
 
@@ -115,6 +116,7 @@ void Command1_click(Workstation& ws) {  // delete the row
   trapped(ws, [&] {
     // The row stays shown until the next move; the text archives keep its lines.
     b.KASHF.rs.remove();
+    flush_bank(ws.bank_root());
     b.Command1.visible = false;
   });
 }

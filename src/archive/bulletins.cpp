@@ -92,8 +92,7 @@ void write_bulletins(Workstation& ws, const std::vector<Bulletin>& bulletins) {
     const std::string name = trim(ws.FrmMain.LabName.text) + "\\" + b.file;
     ws.set(ws.FrmDisplayKashf.txtpathnamebank, name);
     const auto file = bank_file(ws, name);
-    write_first_line(file, b.lines.front());
-    for (std::size_t i = 1; i < b.lines.size(); ++i) append_line(file, b.lines[i]);
+    write_lines(file, b.lines);
   }
 }
 

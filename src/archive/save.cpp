@@ -277,9 +277,17 @@ void save_click(Workstation& ws) {
     open_copy_out(ws);
     keep_past_row(ws);
     ws.FrmMain.PAST.refresh(ws);
+    // The report's row, the past-hours row, the confirmation's lines, the
+    // bulletins and the record reach the disk together, in one flush.
+    flush_bank(ws.bank_root());
   } catch (const UsageError&) {
     throw;
   } catch (const std::exception& e) {
+    // What was written before the fault is made to last all the same.
+    try {
+      flush_bank(ws.bank_root());
+    } catch (const std::exception&) {
+    }
     ws.message(e.what());
   }
 }

@@ -56,7 +56,7 @@ std::string head(const SynopLineParts& p) {
   throw std::runtime_error(std::string(what) + ": " + file.string());
 }
 
-void write_all(int fd, const fs::path& file, const std::string& bytes) {
+void write_all(int fd, const fs::path& file, const std::string& bytes, bool sync = false) {
   std::size_t done = 0;
   while (done < bytes.size()) {
     const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
@@ -68,7 +68,7 @@ void write_all(int fd, const fs::path& file, const std::string& bytes) {
     }
     done += static_cast<std::size_t>(n);
   }
-  if (::fsync(fd) != 0) {
+  if (sync && ::fsync(fd) != 0) {
     const int err = errno;
     ::close(fd);
     fail(file, err);
@@ -76,10 +76,10 @@ void write_all(int fd, const fs::path& file, const std::string& bytes) {
   if (::close(fd) != 0) fail(file, errno);
 }
 
-void write_file(const fs::path& file, std::string_view line, int flags) {
+void write_file(const fs::path& file, const std::string& bytes, int flags) {
   const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0644);
   if (fd < 0) fail(file, errno);
-  write_all(fd, file, to_cp1256(line) + "\r\n");
+  write_all(fd, file, bytes);
 }
 
 }  // namespace
@@ -221,9 +221,26 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
   return out + "NOTE" + value("Text74");
 }
 
-void append_line(const fs::path& file, std::string_view line) { write_file(file, line, O_APPEND); }
+void append_line(const fs::path& file, std::string_view line) {
+  write_file(file, to_cp1256(line) + "\r\n", O_APPEND);
+}
 
-void write_first_line(const fs::path& file, std::string_view line) { write_file(file, line, O_TRUNC); }
+void write_lines(const fs::path& file, const std::vector<std::string>& lines) {
+  std::string bytes;
+  for (const std::string& line : lines) bytes += to_cp1256(line) + "\r\n";
+  write_file(file, bytes, O_TRUNC);
+}
+
+void flush_bank(const fs::path& root) {
+  const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (fd < 0) fail(root, errno);
+  if (::syncfs(fd) != 0) {
+    const int err = errno;
+    ::close(fd);
+    fail(root, err);
+  }
+  ::close(fd);
+}
 
 std::string rewrite_with_line_end(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
@@ -240,7 +257,9 @@ std::string rewrite_with_line_end(const fs::path& file) {
   const fs::path tmp = file.string() + ".new";
   const int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
   if (fd < 0) fail(file, errno);
-  write_all(fd, tmp, whole.str() + "\r\n");
+  // On the disk before it takes the old file's place, so that the name never
+  // stands for an empty file.
+  write_all(fd, tmp, whole.str() + "\r\n", true);
   std::error_code ec;
   fs::rename(tmp, file, ec);
   if (ec) {

@@ -95,8 +95,12 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
 // folder. Throws with a clear description ("Path not found", "Permission
 // denied", "Disk full") and the file's name.
 void append_line(const std::filesystem::path& file, std::string_view line);
-// Writes the file anew with one line.
-void write_first_line(const std::filesystem::path& file, std::string_view line);
+// Writes the file anew with the lines, in one write.
+void write_lines(const std::filesystem::path& file, const std::vector<std::string>& lines);
+// Everything the program has written under the bank reaches the disk: the text
+// files are written without waiting, and a save flushes them all at once, with
+// one flush of the bank's file system rather than one per file and line.
+void flush_bank(const std::filesystem::path& root);
 // The month-end rewrite: the file read whole, written again with one CR LF
 // more. The text read is returned. A missing file is "File not found".
 std::string rewrite_with_line_end(const std::filesystem::path& file);

@@ -26,38 +26,58 @@ fs::path default_bank_root() {
   return fs::current_path() / "obsdesk-bank";
 }
 
+namespace {
+
+bool same_name_any_case(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    char x = a[i], y = b[i];
+    if (x >= 'a' && x <= 'z') x = static_cast<char>(x - 'a' + 'A');
+    if (y >= 'a' && y <= 'z') y = static_cast<char>(y - 'a' + 'A');
+    if (x != y) return false;
+  }
+  return true;
+}
+
+// The name as it stands in the folder, in whatever case; the name itself when the
+// folder holds none such.
+std::string spelled_on_disk(const fs::path& folder, const std::string& part) {
+  std::error_code ec;
+  if (fs::exists(folder / part, ec)) return part;
+  for (fs::directory_iterator it(folder, ec), done; !ec && it != done; it.increment(ec)) {
+    std::string name = it->path().filename().string();
+    if (same_name_any_case(name, part)) return name;
+  }
+  return part;
+}
+
+}  // namespace
+
 fs::path resolve_bank_path(const fs::path& root, std::string_view system_path) {
-  fs::path out = root;
-  std::size_t start = 0;
+  std::vector<std::string> parts;
   bool first = true;
+  std::size_t start = 0;
   while (start <= system_path.size()) {
     std::size_t end = system_path.find_first_of("\\/", start);
     if (end == std::string_view::npos) end = system_path.size();
-    const std::string part(system_path.substr(start, end - start));
+    std::string part(system_path.substr(start, end - start));
     start = end + 1;
     if (part.empty() || part == ".") continue;
-    if (first && part.size() == 2 && part[1] == ':') {  // a drive letter
-      first = false;
-      continue;
-    }
+    const bool drive = first && part.size() == 2 && part[1] == ':';
     first = false;
-    std::error_code ec;
-    if (fs::exists(out / part, ec)) {
-      out /= part;
-      continue;
-    }
-    // The part may stand on disk with another spelling.
-    std::string found;
-    const std::string wanted = upper(part);
-    for (fs::directory_iterator it(out, ec), done; !ec && it != done; it.increment(ec)) {
-      const std::string name = it->path().filename().string();
-      if (upper(name) == wanted) {
-        found = name;
-        break;
-      }
-    }
-    out /= found.empty() ? part : found;
+    if (!drive) parts.push_back(std::move(part));
   }
+  if (parts.empty()) return root;
+
+  // Most names are spelled as on disk, or only their last part is new: two looks
+  // settle those before the walk through every folder.
+  fs::path folder = root;
+  for (std::size_t i = 0; i + 1 < parts.size(); ++i) folder /= parts[i];
+  std::error_code ec;
+  if (fs::is_directory(folder, ec)) return folder / spelled_on_disk(folder, parts.back());
+
+  fs::path out = root;
+  for (const std::string& part : parts) out /= spelled_on_disk(out, part);
   return out;
 }
 

@@ -29,6 +29,8 @@ void Recordset::open(const std::filesystem::path& file, std::string_view table) 
   if (!db.has_table(table))
     throw BankError("table " + std::string(table) + " not found in " + file.string());
   cols_ = db.table_columns(table);
+  upper_cols_.clear();
+  for (const auto& c : cols_) upper_cols_.push_back(upper(c));
   table_ = std::string(table);
   db_ = std::move(db);
   stand_on(query_rowid("ORDER BY rowid LIMIT 1", std::nullopt), true);
@@ -39,6 +41,7 @@ void Recordset::close() {
   db_ = Database();
   table_.clear();
   cols_.clear();
+  upper_cols_.clear();
   row_.clear();
   buffer_.clear();
   current_ = 0;
@@ -47,9 +50,11 @@ void Recordset::close() {
 }
 
 int Recordset::column_index(std::string_view column) const {
-  const std::string wanted = upper(column);
   for (std::size_t i = 0; i < cols_.size(); ++i)
-    if (upper(cols_[i]) == wanted) return static_cast<int>(i);
+    if (cols_[i] == column) return static_cast<int>(i);
+  const std::string wanted = upper(column);
+  for (std::size_t i = 0; i < upper_cols_.size(); ++i)
+    if (upper_cols_[i] == wanted) return static_cast<int>(i);
   return -1;
 }
 

@@ -28,6 +28,10 @@ class Recordset {
   void open(const std::filesystem::path& file, std::string_view table);
   void close();
   bool is_open() const { return db_.is_open(); }
+  // Its writes then go on without waiting for the disk: the one who writes
+  // flushes the bank after each write that must last (the reports' table, whose
+  // save ends in one flush of everything it wrote).
+  void commit_without_waiting() { db_.exec("PRAGMA synchronous=NORMAL"); }
   const std::filesystem::path& file() const { return db_.file(); }
   const std::string& table() const { return table_; }
   const std::vector<std::string>& columns() const { return cols_; }
@@ -79,6 +83,7 @@ class Recordset {
   Database db_;
   std::string table_;
   std::vector<std::string> cols_;
+  std::vector<std::string> upper_cols_;  // the names as matched: a column is found in any case
   std::int64_t current_ = 0;
   bool eof_ = true;
   bool bof_ = true;

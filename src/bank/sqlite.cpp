@@ -22,24 +22,34 @@ Database::Database(const std::filesystem::path& file, Mode mode) : file_(file) {
     exec("PRAGMA journal_mode=WAL");
     exec("PRAGMA synchronous=FULL");
   } catch (...) {
-    sqlite3_close(db_);
-    db_ = nullptr;
+    close();
     throw;
   }
 }
 
-Database::~Database() { sqlite3_close(db_); }
+Database::~Database() { close(); }
 
-Database::Database(Database&& other) noexcept : db_(other.db_), file_(std::move(other.file_)) {
+void Database::close() {
+  for (auto& [sql, kept] : kept_) sqlite3_finalize(kept.stmt);
+  kept_.clear();
+  sqlite3_close(db_);
+  db_ = nullptr;
+}
+
+Database::Database(Database&& other) noexcept
+    : db_(other.db_), file_(std::move(other.file_)), kept_(std::move(other.kept_)) {
   other.db_ = nullptr;
+  other.kept_.clear();
 }
 
 Database& Database::operator=(Database&& other) noexcept {
   if (this != &other) {
-    sqlite3_close(db_);
+    close();
     db_ = other.db_;
     file_ = std::move(other.file_);
+    kept_ = std::move(other.kept_);
     other.db_ = nullptr;
+    other.kept_.clear();
   }
   return *this;
 }
@@ -61,10 +71,23 @@ void Database::exec(std::string_view sql) {
 
 Statement Database::prepare(std::string_view sql) {
   if (!db_) throw BankError("database not open");
+  // A statement still stepping elsewhere (a walk inside a walk) gets a fresh one of
+  // its own; so does any SQL past the few dozen a connection keeps.
+  constexpr std::size_t kKeptMost = 64;
+  auto it = kept_.find(std::string(sql));
+  if (it != kept_.end() && !it->second.in_use) {
+    it->second.in_use = true;
+    return Statement(*this, it->second.stmt, &it->second.in_use);
+  }
+  const bool keep = it == kept_.end() && kept_.size() < kKeptMost;
   sqlite3_stmt* stmt = nullptr;
-  if (sqlite3_prepare_v2(db_, sql.data(), static_cast<int>(sql.size()), &stmt, nullptr) != SQLITE_OK)
+  if (sqlite3_prepare_v3(db_, sql.data(), static_cast<int>(sql.size()), keep ? SQLITE_PREPARE_PERSISTENT : 0,
+                         &stmt, nullptr) != SQLITE_OK)
     fail("database error in");
-  return Statement(*this, stmt);
+  if (!keep) return Statement(*this, stmt);
+  Kept& kept = kept_[std::string(sql)];
+  kept = {stmt, true};
+  return Statement(*this, stmt, &kept.in_use);
 }
 
 std::int64_t Database::last_insert_rowid() const { return sqlite3_last_insert_rowid(db_); }
@@ -83,7 +106,15 @@ std::vector<std::string> Database::table_columns(std::string_view table) {
   return cols;
 }
 
-Statement::~Statement() { sqlite3_finalize(stmt_); }
+Statement::~Statement() {
+  if (!in_use_) {
+    sqlite3_finalize(stmt_);
+    return;
+  }
+  sqlite3_reset(stmt_);
+  sqlite3_clear_bindings(stmt_);
+  *in_use_ = false;
+}
 
 Statement& Statement::bind(int index, std::string_view text) {
   if (sqlite3_bind_text(stmt_, index, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT) !=

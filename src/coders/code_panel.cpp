@@ -110,9 +110,14 @@ Database& open_store(Workstation& ws) {
   if (!p.store || p.store_path != path) {
     p.store.reset();
     auto db = std::make_shared<Database>(path, Database::Mode::ReadWrite);
+    // The row follows every change of the panel and is only the panel as last
+    // left: its writes need not wait for the disk. The next save of a report
+    // flushes the same log to the disk with them.
+    db->exec("PRAGMA synchronous=NORMAL");
     prepare_store(*db);
     p.store = std::move(db);
     p.store_path = path;
+    p.stored.clear();
   }
   return *p.store;
 }
@@ -223,12 +228,19 @@ void save_code_panel(Workstation& ws) {
   if (!has_store(ws)) return;
   try {
     Database& db = open_store(ws);
-    std::string sets;
-    for (const PanelField& f : cood_fields()) sets += (sets.empty() ? "" : ", ") + quote_name(f.column) + " = ?";
-    auto st = db.prepare("UPDATE COOD SET " + sets + " WHERE rowid = (SELECT min(rowid) FROM COOD)");
+    static const std::string update = [] {
+      std::string sets;
+      for (const PanelField& f : cood_fields()) sets += (sets.empty() ? "" : ", ") + quote_name(f.column) + " = ?";
+      return "UPDATE COOD SET " + sets + " WHERE rowid = (SELECT min(rowid) FROM COOD)";
+    }();
+    std::vector<std::string> row;
+    for (const PanelField& f : cood_fields()) row.push_back(box_of(ws.FrmCode, f.box).text);
+    if (row == ws.FrmCode.stored) return;
+    auto st = db.prepare(update);
     int i = 1;
-    for (const PanelField& f : cood_fields()) st.bind(i++, box_of(ws.FrmCode, f.box).text);
+    for (const std::string& v : row) st.bind(i++, v);
     st.run();
+    ws.FrmCode.stored = std::move(row);
   } catch (const BankError& e) {
     ws.FrmCode.store.reset();  // opened afresh at the next use
     ws.error(e.what());

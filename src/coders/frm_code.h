@@ -7,6 +7,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace obsdesk {
 
@@ -137,6 +139,7 @@ struct FrmCode : Screen {
   // The store's database, kept open between writes while its path stands.
   std::shared_ptr<Database> store;
   std::filesystem::path store_path;
+  std::vector<std::string> stored;  // the row as last written there: an unchanged panel is not written again
 };
 
 }  // namespace obsdesk

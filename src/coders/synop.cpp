@@ -190,11 +190,9 @@ void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_h
   ws.set(k.TXTYEARmi, d.year);
 }
 
-void synop_copies(Workstation& ws) {
+void synop_hour_and_dates(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
-  ws.set(p.Text104, k.Txtmaxwind.text);
-  ws.set(p.Text105, k.Txttond.text);
   ws.set(p.Text75, k.Text1.text);
   ws.set(p.TXTYEARmi, k.TXTYEARmi.text);
   ws.set(p.TXTMONTHMI, k.TXTMONTHMI.text);
@@ -202,6 +200,14 @@ void synop_copies(Workstation& ws) {
   ws.set(p.TXTYEARsh, k.TXTYEARsh.text);
   ws.set(p.TXTMONTHSH, k.TXTMONTHSH.text);
   ws.set(p.TXTDAYsh, k.TXTDAYsh.text);
+}
+
+void synop_copies(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  FrmCode& p = ws.FrmCode;
+  ws.set(p.Text104, k.Txtmaxwind.text);
+  ws.set(p.Text105, k.Txttond.text);
+  synop_hour_and_dates(ws);
   ws.set(p.TXT_QNT, k.TXT_QNT.text);
 }
 

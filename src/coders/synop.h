@@ -37,6 +37,8 @@ std::string join_synop(const std::vector<std::string>& boxes, std::string_view q
 void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_hour,
                      std::initializer_list<std::string_view> hours);
 void synop_copies(Workstation& ws);
+// The report's hour and both dates into the panel's head.
+void synop_hour_and_dates(Workstation& ws);
 // "2", station number, year, month, day and hour of the panel.
 std::string synop_line_prefix(Workstation& ws);
 // Shows the S line and tells when it is not 200 characters long.

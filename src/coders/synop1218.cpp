@@ -15,13 +15,7 @@ void run_synop1218(Workstation& ws) {
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);
   synop_date_step(ws, kStation12, 15, {"21", "18"});
-  ws.set(p.Text75, k.Text1.text);
-  ws.set(p.TXTYEARmi, k.TXTYEARmi.text);
-  ws.set(p.TXTMONTHMI, k.TXTMONTHMI.text);
-  ws.set(p.TXTDAYmi, k.TXTDAYmi.text);
-  ws.set(p.TXTYEARsh, k.TXTYEARsh.text);
-  ws.set(p.TXTMONTHSH, k.TXTMONTHSH.text);
-  ws.set(p.TXTDAYsh, k.TXTDAYsh.text);
+  synop_hour_and_dates(ws);
 
   const std::string prefix = synop_line_prefix(ws);
   const std::string& hour = k.Text1.text;

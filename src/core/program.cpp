@@ -129,15 +129,17 @@ void open_control_databases(Workstation& ws) {
     DataControl& control;
     std::string path;
     const char* table;
+    bool flushed_by_save;  // written at every confirmation and save, which flushes the bank
   };
-  const Db dbs[] = {{m.SelectOstan, select_ostan_path(p), "NameOstan"},
-                    {m.BackColor, back_color_path(p), "N_BackColor"},
-                    {m.IDPaths, id_path(p), "ID"},
-                    {m.PAST, past_path(p), "Past"},
-                    {m.ID, id_row_path(p), "ID"}};
+  const Db dbs[] = {{m.SelectOstan, select_ostan_path(p), "NameOstan", false},
+                    {m.BackColor, back_color_path(p), "N_BackColor", false},
+                    {m.IDPaths, id_path(p), "ID", false},
+                    {m.PAST, past_path(p), "Past", true},
+                    {m.ID, id_row_path(p), "ID", false}};
   for (const Db& db : dbs) {
     try {
       db.control.open(ws, resolve_bank_path(ws.bank_root(), db.path), db.table);
+      if (db.flushed_by_save) db.control.rs.commit_without_waiting();
     } catch (const std::exception& e) {
       ws.error(e.what());
     }

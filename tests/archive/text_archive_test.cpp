@@ -145,7 +145,9 @@ TEST(TextArchive, LinesGoToDiskInTheCodePageWithCrLf) {
   append_line(f, "علي");
   EXPECT_EQ(read_bytes(f), "2407542403200612570\r\n" + to_cp1256("علي") + "\r\n");
   EXPECT_EQ(read_bytes(f).size(), 19u + 2u + 3u + 2u);  // one byte a Persian letter
-  write_first_line(f, "ZCZC");
+  write_lines(f, {"ZCZC", "علي"});
+  EXPECT_EQ(read_bytes(f), "ZCZC\r\n" + to_cp1256("علي") + "\r\n");
+  write_lines(f, {"ZCZC"});
   EXPECT_EQ(read_bytes(f), "ZCZC\r\n");
   EXPECT_EQ(rewrite_with_line_end(f), "ZCZC\r\n");
   EXPECT_EQ(read_bytes(f), "ZCZC\r\n\r\n");
