@@ -54,43 +54,38 @@ TEST(CopyOut, TheButtonsOfEachKind) {
   }
 }
 
+// Each button puts its bulletin on the clipboard; a missing file is told and
+// the clipboard keeps what it had; "Back" empties it.
 TEST(CopyOut, EachButtonPutsItsBulletinOnTheClipboard) {
   Station s;
   Workstation& ws = after_save(s, kSynMet);
-  write_file(s, "METAR.dat", kMetarBulletin);
-  write_file(s, "SYNOP.dat", kSynopBulletin);
-  ws.click(ws.FrmPol.Command2);
-  EXPECT_EQ(s.clipboard.text(), kMetarBulletin);
-  ws.click(ws.FrmPol.Command3);
-  EXPECT_EQ(s.clipboard.text(), kSynopBulletin);
-  ws.click(ws.FrmPol.Command5);
-  EXPECT_EQ(s.clipboard.text(), kMetarBulletin + kSynopBulletin);
-  EXPECT_EQ(ws.FrmPol.Text.text, kMetarBulletin + kSynopBulletin);
-  EXPECT_TRUE(ws.take_messages().empty());
-
-  ws.click(ws.FrmPol.Command1);  // "Back"
-  EXPECT_EQ(s.clipboard.text(), "");
-  EXPECT_FALSE(ws.FrmPol.loaded);
-  EXPECT_EQ(ws.active_screen(), &ws.FrmDisplayKashf);
-}
-
-TEST(CopyOut, AMissingFileIsToldAndTheClipboardKeepsWhatItHad) {
-  Station s;
-  Workstation& ws = after_save(s, kSynMet);
+  FrmPol& p = ws.FrmPol;
   write_file(s, "METAR.dat", kMetarBulletin);
   ws.take_messages();
-  ws.click(ws.FrmPol.Command3);  // no SYNOP bulletin
+  ws.click(p.Command3);  // no SYNOP bulletin yet
   EXPECT_EQ(ws.take_messages(), std::vector<std::string>{"box: File not found"});
   EXPECT_EQ(s.clipboard.text(), "");
-  ws.click(ws.FrmPol.Command2);
+  ws.click(p.Command2);
   EXPECT_EQ(s.clipboard.text(), kMetarBulletin);
-  ws.click(ws.FrmPol.Command3);
+  ws.click(p.Command3);
   EXPECT_EQ(s.clipboard.text(), kMetarBulletin);
-  // Both: the METAR bulletin is copied before the SYNOP one is missed.
+  ws.take_messages();
   s.clipboard.clear();
-  ws.click(ws.FrmPol.Command5);
+  ws.click(p.Command5);  // both: the METAR bulletin is copied before the SYNOP one is missed
   EXPECT_EQ(s.clipboard.text(), kMetarBulletin);
-  EXPECT_EQ(ws.take_messages(), (std::vector<std::string>{"box: File not found", "box: File not found"}));
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{"box: File not found"});
+
+  write_file(s, "SYNOP.dat", kSynopBulletin);
+  ws.click(p.Command3);
+  EXPECT_EQ(s.clipboard.text(), kSynopBulletin);
+  ws.click(p.Command5);
+  EXPECT_EQ(s.clipboard.text(), kMetarBulletin + kSynopBulletin);
+  EXPECT_EQ(p.Text.text, kMetarBulletin + kSynopBulletin);
+  EXPECT_TRUE(ws.take_messages().empty());
+  ws.click(p.Command1);  // "Back"
+  EXPECT_EQ(s.clipboard.text(), "");
+  EXPECT_FALSE(p.loaded);
+  EXPECT_EQ(ws.active_screen(), &ws.FrmDisplayKashf);
 }
 
 }  // namespace

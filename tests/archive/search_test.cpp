@@ -1,11 +1,10 @@
 // The search dialog: today's date in both calendars, each calendar filling the
-// other, the search text, and the reports it finds.
+// other, and the search text it hands back (the browser's tests and the saving
+// scenarios find reports by it).
 #include "archive/search.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/bank.h"
-#include "bank/sqlite.h"
 #include "core/seams.h"
 #include "support/test_support.h"
 
@@ -108,49 +107,6 @@ TEST(Search, FindReturnsTheTextAndAnyOtherCloseReturnsNothing) {
   EXPECT_TRUE(closed.called);
   EXPECT_EQ(closed.text, "");
   EXPECT_FALSE(ws.FrmFind.loaded);
-}
-
-// The browser looks for the text anywhere in the key of a report.
-TEST(Search, FindsSavedReportsByEitherCalendar) {
-  Station s({2025, 6, 1, 8, 0, 0});
-  Workstation& ws = s.start();
-  const auto kashf = resolve_bank_path(s.root(), ws.FrmMain.txtpathnamebank1.text);
-  {
-    Database db(kashf, Database::Mode::ReadWrite);
-    for (const char* key : {"2212310000", "2303210600", "2303211200", "2403200300", "2501011800"})
-      db.prepare("INSERT INTO KASHF (yymmddttgg) VALUES (?)").bind(1, std::string(key)).run();
-  }
-  struct Case {
-    std::vector<std::pair<const char*, const char*>> input;
-    const char* text;
-    const char* found;  // "" for a miss
-  };
-  const Case cases[] = {
-      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "21"}}, "230321", "2303210600"},
-      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "21"}, {"txttime", "12"}}, "23032112", "2303211200"},
-      {{{"TXTYEARsh", "1402"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}}, "230321", "2303210600"},
-      {{{"TXTYEARsh", "1402"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}, {"txttime", "12"}}, "23032112", "2303211200"},
-      {{{"TXTYEARsh", "1403"}, {"ComSH", "فروردين"}, {"TXTDAYsh", "1"}, {"txttime", "3"}}, "24032003", "2403200300"},
-      {{{"TXTYEARsh", "1403"}, {"ComSH", "دي"}, {"TXTDAYsh", "12"}}, "250101", "2501011800"},
-      {{{"TXTYEARsh", "1401"}, {"ComSH", "دي"}, {"TXTDAYsh", "10"}}, "221231", "2212310000"},
-      {{{"TXTYEARmi", "2023"}, {"ComMI", "MAR"}, {"TXTDAYmi", "22"}}, "230322", ""},
-  };
-  for (const Case& c : cases) {
-    Returned r;
-    open_find(ws, r);
-    for (const auto& [box, text] : c.input) {
-      Control& b = s.at(std::string("FrmFind.") + box);
-      if (b.kind == Kind::ComboBox) ws.choose(b, text);
-      else ws.type(b, text);
-    }
-    ws.click(ws.FrmFind.CmdFind);
-    ASSERT_EQ(r.text, c.text);
-    Recordset rs;
-    rs.open(kashf, "KASHF");
-    const bool hit = rs.find_first("yymmddttgg", "*" + r.text + "*");
-    EXPECT_EQ(hit ? rs.get("yymmddttgg") : "", c.found) << c.text;
-    ws.unload(ws.FrmFind);
-  }
 }
 
 }  // namespace

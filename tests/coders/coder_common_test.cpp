@@ -8,12 +8,10 @@ namespace obsdesk {
 namespace {
 
 TEST(CoderNumber, ReadsNumbersAndRefusesTheRest) {
-  struct Case {
-    const char* text;
-    double value;
+  const std::pair<const char*, double> good[] = {
+      {"25.4", 25.4}, {" -0.5 ", -0.5}, {"1012.5", 1012.5}, {"0", 0}, {".5", 0.5}, {"7.", 7},
   };
-  const Case good[] = {{"25.4", 25.4}, {" -0.5 ", -0.5}, {"1012.5", 1012.5}, {"0", 0}, {".5", 0.5}, {"7.", 7}};
-  for (const Case& c : good) EXPECT_DOUBLE_EQ(coder_number(c.text), c.value) << c.text;
+  for (const auto& [text, value] : good) EXPECT_DOUBLE_EQ(coder_number(text), value) << text;
   for (const char* bad : {"", "   ", "-", ".", "TR", "/", "12a", "1,5"})
     EXPECT_THROW(coder_number(bad), CoderError) << '"' << bad << '"';
   try {

@@ -42,54 +42,22 @@ struct Entry {
   }
 };
 
-TEST(MetarCoder, WorkedExample) {
+// The scenarios hold the worked example's text; here what the coding opens
+// and keeps beside it.
+TEST(MetarCoder, CodingOpensTheObserverAndKeepsTheLowestCloud) {
   Entry e(kMetar);
+  e.ws.FrmKashf.Combo7.enabled = false;  // as the entry rules leave it before a report is coded
   EXPECT_TRUE(e.click(e.ws.FrmKashf.Command4).empty());
-  EXPECT_EQ(e["FrmCode.TXTYYGG"], "071150Z");
-  EXPECT_EQ(e["FrmCode.TXTUTC"], "1200");
-  EXPECT_EQ(e["FrmCode.TXTCCCC"], "OIII");
-  EXPECT_EQ(e["TXTMET"], " 24008KT 8000 SCT020 25/12 Q1015=");
-  EXPECT_EQ(e.ws.MetarLine1, " 24008KT 8000 SCT020 25/12 Q1015=");
-  EXPECT_EQ(e.ws.MetarLine2, "");
   EXPECT_EQ(e.ws.METAR_coded, 1);
   EXPECT_TRUE(e.ws.FrmKashf.Combo7.enabled);
   EXPECT_EQ(e["TEXTMIN"], "600");
 }
 
-TEST(MetarCoder, ReportsOfTheSameObservation) {
-  const struct {
-    std::string_view kind;
-    Fields changes;
-    const char* button;
-    const char* text_box;
-    const char* text;
-    const char* time_box;
-    const char* time;
-  } table[] = {
-      {kMetar30, {{"txt1", "1230"}}, "Command4", "TXTMET", " 24008KT 8000 SCT020 25/12 Q1015=", "FrmCode.TXTYYGG",
-       "071230Z"},
-      {kSpeci, {{"txt1", "1234"}, {"TXTDAYmi", "05"}}, "Command8", "TXTSPE", "51234Z 24008KT 8000 SCT020 25/12 Q1015=",
-       "FrmCode.Text10", "51234Z"},
-      {kSpeci, {{"txt1", "7"}}, "Command8", "TXTSPE", "70007Z 24008KT 8000 SCT020 25/12 Q1015=", "FrmCode.Text10",
-       "70007Z"},
-      {kMetar, {{"Text1", "00"}, {"TXTDAYmi", "01"}}, "Command4", "TXTMET", " 24008KT 8000 SCT020 25/12 Q1015=",
-       "FrmCode.TXTYYGG", "010000Z"},
-  };
-  for (const auto& row : table) {
-    Entry e(row.kind, row.changes);
-    e.click(e.s.at(row.button));
-    EXPECT_EQ(e[row.text_box], row.text) << row.kind;
-    EXPECT_EQ(e[row.time_box], row.time) << row.kind;
-  }
-}
-
-TEST(SpeciCoder, PadsTheTimeAndSplitsIntoItsOwnLines) {
+TEST(SpeciCoder, SplitsIntoItsOwnLines) {
   Entry e(kSpeci, {{"Text5", "6"}, {"txt1", "7"}, {"Text2", "240"}, {"Text3", "10"}, {"TXTGUSTY", "15"}, {"Text40", "200"},
                    {"Text39", "280"}, {"Text6", "2"}, {"Text8", "3"}, {"Combo2", "SC     4"}, {"Text9", "900"},
                    {"Text10", "5"}, {"Combo3", "SC     5"}, {"Text11", "1200"}, {"Text20", "29.97"}});
   e.click(e.ws.FrmKashf.Command8);
-  EXPECT_EQ(e["txt1"], "0007");
-  EXPECT_EQ(e["FrmCode.Text29"], "0007");
   EXPECT_EQ(e["TXTSPE"], "70007Z 24019G29KT 200V280 8000 FEW020 SCT030 BKN040 25/12 Q1015=");
   EXPECT_EQ(e.ws.SpeciLine1, "70007Z 24019G29KT 200V280 8000 FEW020 SCT030");
   EXPECT_EQ(e.ws.SpeciLine2, "BKN040 25/12 Q1015=");
@@ -115,9 +83,6 @@ TEST(MetarCoder, SkyGroups) {
     Fields changes;
     const char* text;
   } table[] = {
-      {"CAVOK with a clear sky", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"},
-                                  {"Text4", "10000"}, {"FrmDisplayKashf.TXTWW1", " c"}},
-       " 24008KT CAVOK 25/12 Q1015="},
       {"CAVOK above the obstacles", {{"Text7", "1800"}, {"Text4", "12000"}, {"Text2", "CALM"}},
        " 00000KT CAVOK 25/12 Q1015="},
       {"SKC below 10 km", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}, {"Text4", "9999"},
@@ -156,9 +121,6 @@ TEST(MetarCoder, RefusalsEndTheRun) {
   } table[] = {
       {"no cloud amount", {{"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"}}, "FrmERR: لطفا وضعيت ابر ناكي را مشخص نمـائيـــد",
        "FrmKashf.Text6"},
-      {"CAVOK against the weather", {{"Text5", "0"}, {"Text6", "0"}, {"Combo1", "       0"}, {"Text7", "0"},
-                                     {"Text4", "10000"}, {"FrmDisplayKashf.TXTWW1", ""}},
-       "FrmERR: گزارش شده با هواي حاضر مغايرت دارد CAVOK", ""},
       {"dew point no number", {{"Text29", "1.2.3"}}, "FrmERR: Type mismatch: temperature = \"1.2.3\"", ""},
       {"speed no number", {{"Text3", ""}}, "FrmERR: Type mismatch: FF = \"\"", ""},
       {"hour missing", {{"Text1", ""}}, "FrmERR: Type mismatch: UTC = \"\"", ""},

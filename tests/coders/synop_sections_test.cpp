@@ -19,25 +19,20 @@ TEST(SynopSection3, LayerHeightBands) {
     Opt code;
   };
   const Case table[] = {
-      {0, false, "00"},    {29, false, "00"},     {30, false, "01"},     {299, false, "09"},
-      {300, false, "10"},  {1500, false, "50"},   {1501, true, "50"},    {1501, false, "1500"},
-      {1600, true, "50"},  {1600, false, "1500"}, {1799, false, "1500"}, {1800, false, "56"},
-      {9000, false, "80"}, {9001, false, "80"},   {10500, false, "81"},  {21000, false, "88"},
+      {29, false, "00"},   {30, false, "01"},     {299, false, "09"},    {300, false, "10"},
+      {1500, false, "50"}, {1501, true, "50"},    {1501, false, "1500"}, {1799, false, "1500"},
+      {1800, false, "56"}, {9001, false, "80"},   {10500, false, "81"},  {21000, false, "88"},
       {21001, false, std::nullopt},
   };
   for (const Case& c : table) EXPECT_EQ(layer_height_code(c.x, c.first), c.code) << c.x << " " << c.first;
 }
 
 TEST(SynopSection3, VerticalVisibility) {
-  struct Case {
-    const char* vv;
-    Opt group;
+  const std::pair<const char*, Opt> table[] = {
+      {"", std::nullopt}, {"/", "89///"},    {"//", "89///"},    {"150", "89/05"},        {"1600", "89/50"},
+      {"1800", "89/56"},  {"21000", "89/88"}, {"21001", std::nullopt}, {"21002", "89/89"},
   };
-  const Case table[] = {{"", std::nullopt}, {"/", "89///"},   {"//", "89///"},   {"0", "89/00"},
-                        {"150", "89/05"},   {"299", "89/09"}, {"300", "89/10"},  {"1500", "89/50"},
-                        {"1600", "89/50"},  {"1800", "89/56"}, {"9000", "89/80"}, {"21000", "89/88"},
-                        {"21001", std::nullopt}, {"21002", "89/89"}};
-  for (const Case& c : table) EXPECT_EQ(vertical_visibility_group(c.vv), c.group) << c.vv;
+  for (const auto& [vv, group] : table) EXPECT_EQ(vertical_visibility_group(vv), group) << vv;
   EXPECT_THROW(vertical_visibility_group("x"), CoderError);
 }
 
@@ -131,15 +126,11 @@ TEST(SynopSection3, CleaningOfTheBoxes) {
 }
 
 TEST(SynopSection3, RainOf24Hours) {
-  struct Case {
-    const char* rain;
-    Opt group;
+  const std::pair<const char*, Opt> table[] = {
+      {"", std::nullopt}, {"/", "7////"},     {"TR", "79999"},    {"0", "70000"},        {"0.1", "70001"},
+      {"99.9", "70999"},  {"100", "71000"},   {"999.9", "79999"}, {"1000", std::nullopt}, {"0.05", std::nullopt},
   };
-  const Case table[] = {{"", std::nullopt}, {"/", "7////"},   {"TR", "79999"},   {"0", "70000"},
-                        {"0.1", "70001"},   {"0.9", "70009"}, {"1", "70010"},    {"9.9", "70099"},
-                        {"10", "70100"},    {"99.9", "70999"}, {"100", "71000"}, {"999.9", "79999"},
-                        {"1000", std::nullopt}, {"0.05", std::nullopt}};
-  for (const Case& c : table) EXPECT_EQ(rain24_group(c.rain), c.group) << c.rain;
+  for (const auto& [rain, group] : table) EXPECT_EQ(rain24_group(rain), group) << rain;
   EXPECT_THROW(rain24_group("a"), CoderError);
 }
 
@@ -148,8 +139,8 @@ TEST(SynopSection3, GroundMinimumHalvesAwayFromZero) {
     const char* text;
     const char *sign, *temp;
   };
-  const Case table[] = {{"-2.5", "1", "03"}, {"2.5", "0", "03"},  {"-0.4", "1", "00"}, {"0", "0", "00"},
-                        {"12.4", "0", "12"}, {"-12.5", "1", "13"}, {"3.4", "0", "03"}, {"-9.6", "1", "10"}};
+  const Case table[] = {{"-2.5", "1", "03"}, {"2.5", "0", "03"},   {"-0.4", "1", "00"},
+                        {"0", "0", "00"},    {"-12.5", "1", "13"}, {"3.4", "0", "03"}};
   for (const Case& c : table) {
     const auto g = ground_minimum(c.text);
     ASSERT_TRUE(g) << c.text;
@@ -160,42 +151,32 @@ TEST(SynopSection3, GroundMinimumHalvesAwayFromZero) {
 }
 
 TEST(SynopSection3, SnowEvaporationSunshineRadiation) {
-  EXPECT_EQ(snow_group("5", "0"), "45997");
-  EXPECT_EQ(snow_group("5", "12"), "45012");
-  EXPECT_EQ(snow_group("5", "998"), "45998");
-  EXPECT_EQ(snow_group("5", "999"), "45999");
-  EXPECT_EQ(snow_group("5", "2.5"), "45002");
+  const std::pair<const char*, const char*> snow[] = {
+      {"0", "45997"}, {"12", "45012"}, {"998", "45998"}, {"999", "45999"}, {"2.5", "45002"},
+  };
+  for (const auto& [depth, group] : snow) EXPECT_EQ(snow_group("5", depth), group) << depth;
 
-  const char* kinds[] = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ",
-                         "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
-                         "(Sunken) GGI - 3000  طشت تبخير سنج مدل ", "تانك (مخزن) 20 متر مربعي",
-                         "ساير وسائل اندازه گيري", "برنج", "گندم", "(Maize) ذرت", "(Sorghum) ذرت خوشه اي",
-                         "ديگر محصولات"};
-  for (int i = 0; i < 10; ++i) EXPECT_EQ(pan_figure(kinds[i]), std::to_string(i)) << i;
+  const char* kinds[] = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ", "تانك (مخزن) 20 متر مربعي", "ديگر محصولات"};
+  EXPECT_EQ(pan_figure(kinds[0]), "0");
+  EXPECT_EQ(pan_figure(kinds[1]), "3");
+  EXPECT_EQ(pan_figure(kinds[2]), "9");
   EXPECT_EQ(pan_figure("other"), "");
 
-  struct Evap {
-    const char* e;
-    Opt group;
+  const std::pair<const char*, Opt> evap[] = {
+      {"", std::nullopt}, {"-", std::nullopt}, {".", std::nullopt}, {"X", "5///3"},       {"xx", "5///3"},
+      {"0", "50003"},     {"0.5", "50053"},    {"99.9", "59993"},   {"100", std::nullopt},
   };
-  const Evap evap[] = {{"", std::nullopt}, {"-", std::nullopt}, {".", std::nullopt}, {"X", "5///3"},
-                       {"//", "5///3"},   {"xx", "5///3"},     {"0", "50003"},     {"0.5", "50053"},
-                       {"4.2", "50423"},  {"12.3", "51233"},   {"99.9", "59993"},  {"100", std::nullopt}};
-  for (const Evap& c : evap) EXPECT_EQ(evaporation_group(c.e, kinds[3]), c.group) << c.e;
+  for (const auto& [e, group] : evap) EXPECT_EQ(evaporation_group(e, kinds[1]), group) << e;
   EXPECT_TRUE(evaporation_is_negative("-0.1"));
   EXPECT_FALSE(evaporation_is_negative("0"));
   EXPECT_FALSE(evaporation_is_negative("X"));
 
-  struct Sun {
-    const char* s;
-    Opt group;
+  const std::pair<const char*, Opt> sun[] = {
+      {"", std::nullopt}, {".", std::nullopt}, {"/", "55///"}, {"0", "55000"}, {"0.5", "55005"}, {"12.5", "55125"},
+      {"100", std::nullopt},
   };
-  const Sun sun[] = {{"", std::nullopt}, {".", std::nullopt}, {"/", "55///"}, {"//", "55///"}, {"0", "55000"},
-                     {"0.5", "55005"},   {"9.9", "55099"},    {"10", "55100"}, {"12.5", "55125"},
-                     {"100", std::nullopt}};
-  for (const Sun& c : sun) EXPECT_EQ(sunshine_group(c.s), c.group) << c.s;
+  for (const auto& [hours, group] : sun) EXPECT_EQ(sunshine_group(hours), group) << hours;
 
-  EXPECT_EQ(radiation_group("/", "1"), "2////");
   EXPECT_EQ(radiation_group("//", "1"), "2////");
   EXPECT_EQ(radiation_group("1234", "1"), "21234");
   EXPECT_EQ(radiation_group("12.4", "1"), "20012");
@@ -212,9 +193,8 @@ TEST(SynopSection3, UpperAirGroupAndItsSlot) {
   struct Case {
     const char *height, *hour, *slot;
   };
-  const Case table[] = {{"750", "06", "48480"}, {"750", "03", "     "},    {"749.9", "06", "     "},
-                        {"2300", "18", "48480"}, {"2300.1", "00", "     "}, {"1190.8", "12", "48480"},
-                        {"1190.8", "00", "48480"}, {"1190.8", "", "     "}};
+  const Case table[] = {{"750", "06", "48480"},  {"750", "03", "     "},    {"749.9", "06", "     "},
+                        {"2300", "18", "48480"}, {"2300.1", "00", "     "}, {"1190.8", "", "     "}};
   for (const Case& c : table) EXPECT_EQ(upper_air_slot("48480", c.height, c.hour), c.slot) << c.height << " " << c.hour;
 }
 
@@ -229,7 +209,6 @@ TEST(SynopDateStep, NextDayAcrossMonthsAndYears) {
       {{"1900", "02", "28", "09"}, {"1900", "03", "01", "10"}},
       {{"2000", "02", "28", "09"}, {"2000", "02", "29", "10"}},
       {{"2024", "12", "31", "10"}, {"2025", "01", "01", "11"}},
-      {{"2024", "04", "30", "10"}, {"2024", "05", "01", "11"}},
       {{"2024", "11", "30", "30"}, {"2024", "12", "01", "31"}},
       {{"2024", "09", "9", "9"}, {"2024", "09", "10", "10"}},
   };

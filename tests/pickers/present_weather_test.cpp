@@ -1,5 +1,6 @@
 // The present weather board: every code on each of its three boxes under an
-// observation that lets it through, then each test and gate on its own.
+// observation that lets it through, then each test and gate on its own, and the
+// rows of its table that look like slips.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -285,6 +286,47 @@ TEST(PresentWeather, CancelAndVicinity) {
   ws.choose(ws.FrmFeali.CmbVC, "None");
   EXPECT_FALSE(k.LabVC.visible);
   EXPECT_FALSE(ws.FrmFeali.visible);
+}
+
+// The rows whose texts look like slips are kept as they are, and every row has
+// the shape the board relies on.
+TEST(PresentWeather, TableRowsKeepTheirTexts) {
+  const auto& t = present_weather_table();
+  ASSERT_EQ(t.size(), 100u);
+  struct Row {
+    int ww;
+    std::string_view synop, metar, recent;
+    Gate gate;
+    bool ask;
+  };
+  const Row rows[] = {
+      {0, "00", "", "", Gate::None, false},       {50, "50", "-DZ", "-DZ", Gate::ST, true},
+      {69, "69", "SNRA", "+SNRA", Gate::NS, false}, {76, "76", "", "", Gate::NS, true},
+      {79, "79", "PE", "PE", Gate::PE, false},    {88, "88", "GR", "+GR", Gate::CB, false},
+      {99, "99", "+TSGR", "+TSGR", Gate::CB, false},
+  };
+  for (const Row& r : rows) {
+    const PresentWeather& p = t[r.ww];
+    EXPECT_EQ(p.synop, r.synop) << r.ww;
+    EXPECT_EQ(p.metar, r.metar) << r.ww;
+    EXPECT_EQ(p.recent, r.recent) << r.ww;
+    EXPECT_EQ(p.gate, r.gate) << r.ww;
+    EXPECT_EQ(p.ask, r.ask) << r.ww;
+  }
+  // Every code but 80 writes its own two figures; only 04 to 09 send the recent
+  // place to the METAR box; only a gated code may ask.
+  for (int ww = 0; ww < 100; ++ww) {
+    const PresentWeather& p = t[ww];
+    if (ww != 80) {
+      EXPECT_EQ(std::stoi(std::string(p.synop)), ww);
+    }
+    EXPECT_EQ(p.recent_in_metar_box, ww >= 4 && ww <= 9) << ww;
+    if (p.ask) {
+      EXPECT_NE(p.gate, Gate::None) << ww;
+    }
+    for (const BeforeTest& b : p.before) EXPECT_FALSE(b.message.empty()) << ww;
+  }
+  EXPECT_EQ(t[8].mark, Mark::None);  // 04, 07 and 10 carry theirs
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "support/test_support.h"
 
 #include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 #include "core/program.h"
@@ -28,6 +30,12 @@ Workstation& Station::start() {
   return *ws;
 }
 
+Workstation& Station::restart() {
+  ws.reset();
+  ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
+  return start();
+}
+
 Workstation& Station::open_browser() {
   start();
   ws->click(ws->FrmMain.Command2);
@@ -44,6 +52,13 @@ Control& Station::at(const std::string& qualified) {
   Control* c = ws->control(qualified);
   if (c == nullptr) throw std::runtime_error("no control " + qualified);
   return *c;
+}
+
+std::string read_bytes(const std::filesystem::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream o;
+  o << in.rdbuf();
+  return o.str();
 }
 
 }  // namespace obsdesk::test

@@ -39,7 +39,12 @@ struct Station {
   Workstation& open_browser();
   // Start, "Run", and a new report opened on the entry screen.
   Workstation& open_entry();
+  // A fresh workstation on the same bank, started: the program run again.
+  Workstation& restart();
   Control& at(const std::string& qualified);
 };
+
+// The bytes of a file as they lie on disk ("" when it is missing).
+std::string read_bytes(const std::filesystem::path& file);
 
 }  // namespace obsdesk::test
