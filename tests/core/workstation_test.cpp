@@ -37,30 +37,6 @@ class Events : public ::testing::Test {
   std::string trail;
 };
 
-TEST_F(Events, ChangeFiresOnlyWhenTheTextDiffers) {
-  int changes = 0;
-  pad.A.on(Event::Change, [&](Workstation&) { ++changes; });
-  ws().set(pad.A, "x");
-  ws().set(pad.A, "x");
-  ws().set(pad.A, "y");
-  EXPECT_EQ(changes, 2);
-}
-
-TEST_F(Events, AChangeHandlerIsNotReenteredByItsOwnOutput) {
-  int a_runs = 0;
-  // A empties itself (as a refusal does); B writes back into A.
-  pad.A.on(Event::Change, [&](Workstation& w) {
-    ++a_runs;
-    w.set(pad.B, pad.A.text + "!");
-    w.set(pad.A, "");
-  });
-  pad.B.on(Event::Change, [&](Workstation& w) { w.set(pad.A, "from B"); });
-  ws().set_text(pad.A, "go");
-  EXPECT_EQ(a_runs, 1);
-  EXPECT_EQ(pad.A.text, "");
-  EXPECT_EQ(pad.B.text, "go!");
-}
-
 TEST_F(Events, FocusMovesAfterTheHandlerLeaveThenEnter) {
   log_focus(pad.A);
   log_focus(pad.B);
@@ -75,20 +51,6 @@ TEST_F(Events, FocusMovesAfterTheHandlerLeaveThenEnter) {
   EXPECT_EQ(ws().focused(), &pad.B);
   EXPECT_EQ(pad.B.back_color, kGreen);
   EXPECT_EQ(pad.A.back_color, kWhite);
-}
-
-TEST_F(Events, ARefusalOnLeavingReturnsTheFocus) {
-  log_focus(pad.B);
-  pad.A.on(Event::Enter, [&](Workstation&) { trail += "enter A;"; });
-  pad.A.on(Event::Leave, [&](Workstation& w) {
-    trail += "leave A;";
-    if (pad.A.text.empty()) w.focus(pad.A);
-  });
-  ws().focus_now(pad.A);
-  trail.clear();
-  ws().focus_now(pad.B);
-  EXPECT_EQ(trail, "leave A;enter B;leave B;enter A;");
-  EXPECT_EQ(ws().focused(), &pad.A);
 }
 
 TEST_F(Events, TwoRulesHandingTheFocusBackAndForthStop) {
@@ -124,20 +86,6 @@ TEST_F(Events, TypingStopsWhenARuleSendsTheFocusAway) {
   EXPECT_EQ(pad.A.text, "c");
   EXPECT_EQ(pad.B.text, "");
   EXPECT_EQ(ws().focused(), &pad.B);
-}
-
-TEST_F(Events, AClickFocusesTheButtonFirstAndIsLostWhenTheFocusRuleMovesOn) {
-  int clicks = 0;
-  bool refuse = true;
-  pad.Go.on(Event::Enter, [&](Workstation& w) {
-    if (refuse) w.focus(pad.A);
-  });
-  pad.Go.on(Event::Click, [&](Workstation&) { ++clicks; });
-  ws().click(pad.Go);
-  EXPECT_EQ(clicks, 0);
-  refuse = false;
-  ws().click(pad.Go);
-  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(Events, TheMessagePanelDoesNotHoldTheCaller) {
@@ -188,31 +136,6 @@ TEST_F(Events, HiddenFramesAndMasksKeepTheirBoxesOutOfReach) {
   ws().focus(pad.C);  // a rule's move to a box out of reach is dropped
   ws().focus_now(pad.A);
   EXPECT_EQ(ws().focused(), &pad.A);
-}
-
-TEST_F(Events, UnloadPutsTheControlsBackAsDesigned) {
-  pad.A.text = "design";
-  pad.snapshot_design();
-  ws().set_text(pad.A, "typed");
-  pad.B.visible = false;
-  int unloads = 0;
-  pad.on(ScreenEvent::Unload, [&](Workstation&) { ++unloads; });
-  ws().unload(pad);
-  EXPECT_EQ(unloads, 1);
-  EXPECT_EQ(pad.A.text, "design");
-  EXPECT_TRUE(pad.B.visible);
-  EXPECT_FALSE(pad.visible);
-}
-
-TEST_F(Events, AModalScreenHandsBackToItsCallerWhenItCloses) {
-  Pad dialog;
-  std::string result;
-  ws().show_modal(dialog, [&](Workstation&) { result = dialog.A.text; });
-  EXPECT_EQ(ws().active_screen(), &dialog);
-  ws().set_text(dialog.A, "chosen");
-  ws().hide(dialog);
-  EXPECT_EQ(result, "chosen");
-  EXPECT_EQ(ws().active_screen(), &pad);
 }
 
 TEST_F(Events, OpeningAnotherScreenDoesNotMakeTheBoxLeave) {
