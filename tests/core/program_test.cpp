@@ -172,17 +172,6 @@ TEST(Start, ABankRootThatCannotBeMadeIsRefusedClearly) {
   }
 }
 
-TEST(BankPaths, OneFolderWhateverItsSpelling) {
-  Station s;
-  s.start();
-  const auto a = resolve_bank_path(s.root(), "VARDOK\\Bank\\Access\\ID.MDB");
-  const auto b = resolve_bank_path(s.root(), "C:\\vardok\\bank\\access\\id.mdb");
-  EXPECT_EQ(a, b);
-  EXPECT_TRUE(std::filesystem::exists(a));
-  EXPECT_EQ(resolve_bank_path(s.root(), "VARDOK\\BANK\\OIII\\TEXT\\SCDATA\\new.dat"),
-            s.root() / "VARDOK" / "BANK" / "OIII" / "TEXT" / "SCDATA" / "new.dat");
-}
-
 TEST(Colours, TheFormColourIsReadInBothSpellings) {
   EXPECT_EQ(parse_colour("&H00C0C0C0&"), 0xC0C0C0);
   EXPECT_EQ(parse_colour("12632256"), 12632256);
