@@ -212,14 +212,5 @@ TEST(Cloud, RainfallRuleEndsTheBlock) {
   }
 }
 
-TEST(Cloud, LeavingTheTotalBringsTheTemperatureOfTwelveHoursBefore) {
-  test::Station s;
-  Workstation& ws = at_cloud(s, kSynop, "03");
-  ws.FrmMain.txt15T.text = "12.5";
-  ws.type(ws.FrmKashf.Text5, "3");
-  ws.press_enter();
-  EXPECT_EQ(ws.FrmKashf.txtt12.text, "12.5");
-}
-
 }  // namespace
 }  // namespace obsdesk
