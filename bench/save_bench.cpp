@@ -10,7 +10,6 @@
 #include <memory>
 #include <string>
 
-#include "archive/text_archive.h"
 #include "bank/bank.h"
 #include "bank/sqlite.h"
 #include "core/program.h"
@@ -74,8 +73,8 @@ void one_save(Workstation& ws) {
   k.Text27.text = "12.4";
   k.Combo7.text = "OBSERVER";
   ws.FrmCode.Text75.text = "06";
-  ws.FrmCode.TXTSCDATA.text = s_line(synop_line_parts(ws));
-  ws.FrmCode.TXTgolbad.text = g_line(synop_line_parts(ws));
+  ws.FrmCode.TXTSCDATA.text = "2407542403200612570     10124";
+  ws.FrmCode.TXTgolbad.text = "4075424032006***27004*******";
   ws.SynopLine1 = "12570 32704 10124=";
   k.ZAKHIREH.enabled = true;
   ws.click(k.ZAKHIREH);
