@@ -10,9 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "archive/text_archive.h"
-#include "bank/bank.h"
-#include "bank/sqlite.h"
+#include "bench_bank.h"
 #include "core/program.h"
 #include "core/record.h"
 #include "core/workstation.h"
@@ -22,31 +20,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace obsdesk;
 
-fs::path temp_root() {
-  std::string tmpl = (fs::temp_directory_path() / "obsdesk-save-bench-XXXXXX").string();
-  if (::mkdtemp(tmpl.data()) == nullptr) std::abort();
-  return fs::path(tmpl) / "bank";
-}
-
 // A bank with this many reports in the table and in each total file.
 void fill_archive(const fs::path& root, int reports) {
-  create_bank(root);
-  if (reports == 0) return;
-  Database db(resolve_bank_path(root, "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"), Database::Mode::ReadWrite);
-  const auto& cols = kashf_columns();
-  std::string names, marks;
-  for (std::size_t i = 0; i < cols.size(); ++i) {
-    names += (i ? "," : "") + quote_name(cols[i].column);
-    marks += i ? ",?" : "?";
-  }
-  db.exec("BEGIN");
-  auto st = db.prepare("INSERT INTO KASHF (" + names + ") VALUES (" + marks + ")");
-  for (int r = 0; r < reports; ++r) {
-    for (std::size_t c = 0; c < cols.size(); ++c) st.bind(static_cast<int>(c + 1), std::to_string(r % 100000));
-    st.run();
-    st.reset();
-  }
-  db.exec("COMMIT");
+  bench::fill_kashf(root, reports, 100000);
   const fs::path scdata = root / "VARDOK" / "BANK" / "OIII" / "TEXT" / "SCDATA";
   const fs::path kashf = root / "VARDOK" / "BANK" / "OIII" / "TEXT" / "KASHF";
   const std::string line(200, '5');
@@ -54,6 +30,7 @@ void fill_archive(const fs::path& root, int reports) {
     std::ofstream out(f, std::ios::binary);
     for (int r = 0; r < reports; ++r) out << line << "\r\n";
   }
+  flush_bank(root);
 }
 
 struct Desk {
@@ -74,8 +51,8 @@ void one_save(Workstation& ws) {
   k.Text27.text = "12.4";
   k.Combo7.text = "OBSERVER";
   ws.FrmCode.Text75.text = "06";
-  ws.FrmCode.TXTSCDATA.text = s_line(synop_line_parts(ws));
-  ws.FrmCode.TXTgolbad.text = g_line(synop_line_parts(ws));
+  ws.FrmCode.TXTSCDATA.text = "2407542403200612570     10124";
+  ws.FrmCode.TXTgolbad.text = "4075424032006***27004*******";
   ws.SynopLine1 = "12570 32704 10124=";
   k.ZAKHIREH.enabled = true;
   ws.click(k.ZAKHIREH);
@@ -84,7 +61,7 @@ void one_save(Workstation& ws) {
 }
 
 void BM_ConfirmAndSave(benchmark::State& state) {
-  const fs::path root = temp_root();
+  const fs::path root = bench::temp_bank("obsdesk-save-bench");
   fill_archive(root, static_cast<int>(state.range(0)));
   Desk d;
   d.ws = std::make_unique<Workstation>(root, Services{d.asker, d.clock, d.clipboard});

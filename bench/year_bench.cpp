@@ -14,8 +14,7 @@
 #include <memory>
 #include <string>
 
-#include "bank/bank.h"
-#include "bank/sqlite.h"
+#include "bench_bank.h"
 #include "core/program.h"
 #include "core/record.h"
 #include "core/workstation.h"
@@ -27,32 +26,6 @@ using namespace obsdesk;
 
 constexpr int kYearReports = 365 * 24;
 constexpr int kArchiveYears = 20;
-
-fs::path temp_root() {
-  std::string tmpl = (fs::temp_directory_path() / "obsdesk-year-bench-XXXXXX").string();
-  if (::mkdtemp(tmpl.data()) == nullptr) std::abort();
-  return fs::path(tmpl) / "bank";
-}
-
-// Twenty years of hourly rows in the KASHF table, written straight into the bank.
-void fill_archive(const fs::path& root) {
-  create_bank(root);
-  Database db(resolve_bank_path(root, "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"), Database::Mode::ReadWrite);
-  const auto& cols = kashf_columns();
-  std::string names, marks;
-  for (std::size_t i = 0; i < cols.size(); ++i) {
-    names += (i ? "," : "") + quote_name(cols[i].column);
-    marks += i ? ",?" : "?";
-  }
-  db.exec("BEGIN");
-  auto st = db.prepare("INSERT INTO KASHF (" + names + ") VALUES (" + marks + ")");
-  for (int r = 0; r < kArchiveYears * kYearReports; ++r) {
-    for (std::size_t c = 0; c < cols.size(); ++c) st.bind(static_cast<int>(c + 1), std::to_string(r % 997));
-    st.run();
-    st.reset();
-  }
-  db.exec("COMMIT");
-}
 
 std::uintmax_t folder_size(const fs::path& root) {
   std::uintmax_t total = 0;
@@ -124,8 +97,8 @@ bool one_report(Workstation& ws, int hour) {
 void BM_YearOfWork(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
-    const fs::path root = temp_root();
-    fill_archive(root);
+    const fs::path root = bench::temp_bank("obsdesk-year-bench");
+    bench::fill_kashf(root, kArchiveYears * kYearReports, 997);  // twenty years of hourly rows
     Desk d;
     d.ws = std::make_unique<Workstation>(root, Services{d.asker, d.clock, d.clipboard});
     start_program(*d.ws);

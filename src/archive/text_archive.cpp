@@ -28,18 +28,6 @@ std::string kashf_dir(std::string_view folder) { return std::string(folder) + "\
 // A field of a line: the value left-aligned in its width; a longer value stands.
 std::string field(std::string_view value, std::size_t width) { return pad_right(value, width); }
 
-std::string groups(const std::vector<std::string>& g, std::size_t count) {
-  std::string out;
-  for (std::size_t i = 0; i < count; ++i) out += field(i < g.size() ? g[i] : std::string(), 5);
-  return out;
-}
-
-// The head shared by the S and G lines: number, YY, MM, DD, hour.
-std::string head(const SynopLineParts& p) {
-  return field(p.numcod, 5) + field(mid(p.year, 3, 2), 2) + field(p.month, 2) + field(p.day, 2) +
-         field(p.hour, 2);
-}
-
 // The runtime's words for a failed file operation, with the file's name.
 [[noreturn]] void fail(const fs::path& file, int err) {
   const char* what = nullptr;
@@ -144,47 +132,6 @@ std::string previous_month_tag(std::string_view key) {
   };
   return pad(y) + pad(m);
 }
-
-SynopLineParts synop_line_parts(Workstation& ws) {
-  const FrmCode& c = ws.FrmCode;
-  const FrmKashf& k = ws.FrmKashf;
-  SynopLineParts p;
-  p.numcod = ws.FrmOption.NUMCOD.text;
-  p.year = k.TXTYEARmi.text;
-  p.month = k.TXTMONTHMI.text;
-  p.day = k.TXTDAYmi.text;
-  p.hour = c.Text75.text;
-  for (const TextBox* b : {&c.Text76, &c.Text77, &c.Text78, &c.Text79, &c.Text80, &c.Text81, &c.Text82,
-                           &c.Text83, &c.Text84, &c.Text85, &c.Text86, &c.Text87})
-    p.section1.push_back(b->text);
-  for (const TextBox* b : {&c.Text89, &c.Text90, &c.Text91, &c.Text92}) p.section3.push_back(b->text);
-  // The 850 hPa height goes to the archive at the main hours of a station between
-  // 750 and 2300 m only; elsewhere its place stays blank.
-  const double height = val(ws.FrmOption.Txth.text), hour = val(c.Text75.text);
-  const bool upper_air = height > 749.9 && height < 2300.1 && (hour == 0 || hour == 6 || hour == 12 || hour == 18);
-  p.section3.push_back(upper_air ? c.Text93.text : std::string(5, ' '));
-  for (const TextBox* b : {&c.Text94, &c.Text95, &c.Text96, &c.Text97, &c.Text98, &c.Text99, &c.Text100,
-                           &c.Text101, &c.Text102})
-    p.section5.push_back(b->text);
-  p.rh = c.Text103.text;
-  p.max_wind = c.Text104.text;
-  p.gust = c.Text105.text;
-  for (const TextBox* b : {&c.Text41, &c.Text42, &c.Text43, &c.Text44, &c.Text45, &c.Text46})
-    p.soil.push_back(b->text);
-  p.f32 = c.Text7.text;
-  p.dddff = c.Text34.text;
-  return p;
-}
-
-std::string s_line(const SynopLineParts& p) {
-  const double h = val(p.hour);
-  const bool soil_hour = h == 3 || h == 9 || h == 15;
-  return "2" + head(p) + groups(p.section1, 12) + "333" + groups(p.section3, 5) + groups(p.section5, 9) +
-         field(p.rh, 3) + field(p.max_wind, 5) + field(p.gust, 5) + (soil_hour ? "999" : "   ") +
-         groups(p.soil, 6) + std::string(6, ' ') + p.f32;
-}
-
-std::string g_line(const SynopLineParts& p) { return head(p) + "***" + field(p.dddff, 5) + "*******"; }
 
 std::string it_line(std::string_view s) { return "266" + mid(s, 4); }
 

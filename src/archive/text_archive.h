@@ -52,27 +52,6 @@ std::string previous_month_tag(std::string_view key);
 
 // ---- Lines ------------------------------------------------------------------
 
-// The values the S and G lines are made of, as the code panel holds them.
-struct SynopLineParts {
-  std::string numcod, year, month, day, hour;  // year: the full Gregorian year
-  std::vector<std::string> section1;           // Text76 .. Text87, twelve groups
-  std::vector<std::string> section3;           // Text89 .. Text92, then the 4a3hhh place
-  std::vector<std::string> section5;           // Text94 .. Text102, nine groups
-  std::string rh;                              // Text103
-  std::string max_wind, gust;                  // Text104, Text105
-  std::vector<std::string> soil;               // Text41 .. Text46
-  std::string f32;                             // Text7
-  std::string dddff;                           // Text34
-};
-SynopLineParts synop_line_parts(Workstation& ws);
-
-// 2 + number + YY MM DD hour + twelve groups + "333" + five groups (4a3hhh kept)
-// + nine groups + RH + two wind groups + "999" at 03, 09 and 15 UTC + six soil
-// groups + six blanks: 199 characters, then F32. A missing group keeps its place
-// as blanks.
-std::string s_line(const SynopLineParts& p);
-// number + YY MM DD hour + "***" + dddff + "*******".
-std::string g_line(const SynopLineParts& p);
 // The IT line: "266" in place of "2" and the first two figures of the number.
 std::string it_line(std::string_view s_line);
 

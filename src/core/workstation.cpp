@@ -85,6 +85,19 @@ Control* Workstation::control(std::string_view qualified) const {
 
 // ---- Events --------------------------------------------------------------------
 
+// Each handler has its own trap: the description goes to the panel and the
+// handler that raised it ends there. A misuse of the runner is no fault of the
+// program's and goes on up.
+void Workstation::run_trapped(const Handler& h) {
+  try {
+    h(*this);
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& ex) {
+    error(ex.what());
+  }
+}
+
 void Workstation::fire(Control& c, Event e) {
   const Handler& h = c.handler(e);
   if (!h) return;
@@ -101,32 +114,22 @@ void Workstation::fire(Control& c, Event e) {
       --depth;
     }
   } guard{c, e == Event::Change, depth_};
-  ++depth_;
-  try {
-    if (depth_ > kMaxNesting) throw std::runtime_error("Out of stack space");
-    h(*this);
-  } catch (const UsageError&) {
-    throw;
-  } catch (const std::exception& ex) {
-    // Each handler has its own trap: the description goes to the panel and the
-    // handler that raised it ends there.
-    error(ex.what());
+  if (++depth_ > kMaxNesting) {
+    error("Out of stack space");
+    return;
   }
+  run_trapped(h);
 }
 
 void Workstation::fire(Screen& s, ScreenEvent e) {
   const Handler& h = s.handler(e);
   if (!h) return;
+  struct Depth {
+    int& depth;
+    ~Depth() { --depth; }
+  } depth{depth_};
   ++depth_;
-  try {
-    h(*this);
-  } catch (const UsageError&) {
-    --depth_;
-    throw;
-  } catch (const std::exception& ex) {
-    error(ex.what());
-  }
-  --depth_;
+  run_trapped(h);
 }
 
 template <typename F>
@@ -153,13 +156,7 @@ void Workstation::settle() {
     }
     Handler h = std::move(posted_.front());
     posted_.pop_front();
-    try {
-      h(*this);
-    } catch (const UsageError&) {
-      throw;
-    } catch (const std::exception& ex) {
-      error(ex.what());
-    }
+    run_trapped(h);
   }
 }
 
@@ -367,13 +364,7 @@ void Workstation::hide(Screen& s) {
   if (s.on_close_) {
     Handler h = std::move(s.on_close_);
     s.on_close_ = nullptr;
-    try {
-      h(*this);
-    } catch (const UsageError&) {
-      throw;
-    } catch (const std::exception& ex) {
-      error(ex.what());
-    }
+    run_trapped(h);
   }
 }
 

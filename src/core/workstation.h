@@ -184,6 +184,7 @@ class Workstation {
 
  private:
   void register_screens();
+  void run_trapped(const Handler& h);
   void fire(Control& c, Event e);
   void fire(Screen& s, ScreenEvent e);
   void settle();

@@ -61,8 +61,11 @@ inline void new_report(Workstation& ws, const Obs& o) {
   c.Text79.text = "10124";
   c.Text34.text = "27004";
   c.Text7.text = "F32";
-  c.TXTSCDATA.text = s_line(synop_line_parts(ws));
-  c.TXTgolbad.text = g_line(synop_line_parts(ws));
+  // The head of the S and G lines as the SYNOP coder begins them; the groups after it
+  // only have to be carried through to the files.
+  const std::string head = "40754" + o.year.substr(2) + o.month + o.day + o.hour;
+  c.TXTSCDATA.text = "2" + head + "1257032704     10124";
+  c.TXTgolbad.text = head + "***27004*******";
   c.Text10.text = o.day + o.txt1 + "Z";
   ws.SynopLine1 = "12570 32704 10124=";
   ws.MetarLine1 = " 27004KT 9999 SCT030 12/02 Q1015=";

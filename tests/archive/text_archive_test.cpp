@@ -29,60 +29,6 @@ std::string error_of(F&& f) {
   return "no error";
 }
 
-std::string blanks(std::size_t n) { return std::string(n, ' '); }
-
-SynopLineParts full_parts(const std::string& hour) {
-  SynopLineParts p;
-  p.numcod = "40754";
-  p.year = "2024";
-  p.month = "03";
-  p.day = "20";
-  p.hour = hour;
-  p.section1 = {"12570", "80000", "00000", "10150", "20012", "38760", "40215", "52012", "60001", "70211",
-                "81200", "92350"};
-  p.section3 = {"10210", "21005", "30004", "40000", "     "};
-  p.section5 = {"50030", "55080", "01234", "71234", "80120", "     ", "     ", "     ", "90101"};
-  p.rh = "45";
-  p.max_wind = "27012";
-  p.gust = "     ";
-  p.soil = {"10150", "10140", "10130", "10120", "10110", "10100"};
-  p.f32 = "F32";
-  p.dddff = "27012";
-  return p;
-}
-
-TEST(TextArchive, SLineKeepsEveryPlaceAndTheSoilHeadingAtItsHours) {
-  struct Case {
-    std::string hour;
-    bool soil_heading;
-  };
-  for (const Case& c : {Case{"03", true}, Case{"15", true}, Case{"00", false}}) {
-    const SynopLineParts p = full_parts(c.hour);
-    const std::string s = s_line(p);
-    EXPECT_EQ(len(s), 199u + 3u) << c.hour;
-    const std::string expected = "24075424032" + std::string("0") + c.hour +
-                                 "12570800000000010150200123876040215520126000170211812009235" + "0" + "333" +
-                                 "1021021005300044000" + "0" + blanks(5) + "5003055080012347123480120" + blanks(15) +
-                                 "90101" + "45 " + "27012" + blanks(5) + (c.soil_heading ? "999" : "   ") +
-                                 "101501014010130101201011010100" + blanks(6) + "F32";
-    EXPECT_EQ(s, expected) << c.hour;
-  }
-  // A report with nothing coded keeps its head, "333" and its length.
-  SynopLineParts empty;
-  empty.numcod = "40754";
-  empty.year = "2024";
-  empty.month = "03";
-  empty.day = "20";
-  empty.hour = "06";
-  const std::string s = s_line(empty);
-  EXPECT_EQ(len(s), 199u);
-  EXPECT_EQ(left(s, 14), "24075424032006");
-  EXPECT_EQ(mid(s, 75, 3), "333");
-  EXPECT_EQ(it_line(s_line(full_parts("06"))), "266" + mid(s_line(full_parts("06")), 4));
-  EXPECT_EQ(left(it_line(s), 8), "26675424");
-  EXPECT_EQ(g_line(full_parts("06")), "4075424032006***27012*******");
-  EXPECT_EQ(g_line(empty), "4075424032006***     *******");
-}
 
 TEST(TextArchive, TheClimatologicalDayOfTheItFile) {
   struct Case {
