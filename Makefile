@@ -1,6 +1,6 @@
 # obsdesk: the two everyday commands, and a few more.
 #   make run            build and run the demo session on a fresh demo bank
-#   make test           build with warnings as errors and run every test
+#   make test           build with warnings as errors, run every test and the fuzz run
 #   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench          build and run the benchmarks
 #   make fuzz           a million observer actions under the sanitizers (FUZZ_EVENTS=N)
@@ -32,9 +32,11 @@ run: configure
 	rm -rf $(BUILD)/demo-bank
 	$(BUILD)/obsdesk-cli --bank $(BUILD)/demo-bank run examples/demo.scenario
 
+# The tests, then a million observer actions under the sanitizers.
 test: configure
 	cmake --build $(BUILD) -j $(JOBS)
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS) --timeout 1800
+	$(MAKE) --no-print-directory fuzz
 
 test-sanitize: deps
 	cmake -S . -B build-sanitize -G Ninja -DCMAKE_BUILD_TYPE=Debug -DOBSDESK_WERROR=ON \
