@@ -32,6 +32,7 @@ void fill(obsdesk::Workstation& ws) {
   for (const auto& [name, text] : values) ws.control(name)->text = text;
   ws.FrmCode.Text85.text = "78082";
   ws.FrmCode.Text91.text = "30102";
+  ws.GroundCode = "1";  // the snow cover's figure E', as the ground board leaves it
 }
 
 void BM_CodeOneSynop(benchmark::State& state) {
