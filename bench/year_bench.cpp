@@ -60,30 +60,22 @@ bool one_report(Workstation& ws, int hour) {
   }
   ws.type(k.Text1, two(hour));
   ws.press_enter();
-  ws.set_text(k.Text2, "270");
-  ws.set_text(k.Text3, "4");
-  ws.set_text(k.Text4, "10000");
-  ws.set_text(k.Text5, "3");
-  ws.set_text(k.Text6, "3");
-  ws.set_text(k.Combo1, "CU     1");
-  ws.set_text(k.Text7, "900");
-  if (synoptic) {
-    ws.set_text(k.Text49, "3");
-    ws.set_text(k.Combo4, "CU     1");
-    ws.set_text(k.txtmin, "900");
-  }
-  ws.set_text(k.Text27, "12.4");
-  ws.set_text(k.Text28, "6.2");
-  ws.set_text(k.Text13, "15");
-  ws.set_text(k.Text14, "880.0");
-  if (synoptic) {
-    ws.set_text(k.Text25, "1.2");
-    ws.set_text(k.Text38, "3");
-    ws.set_text(k.txtt12, "8.0");
-    ws.set_text(k.Text59, "4.0");
-    ws.set_text(k.Text60, "18.2");
-    ws.click(k.Cmdsynop);
-  }
+  // The boxes in the order of the walk; the second group of clouds, the rain, T12
+  // and the extremes only at the synoptic hours.
+  const struct {
+    const char* box;
+    const char* text;
+    bool synoptic_only;
+  } typed[] = {
+      {"Text2", "270", false},   {"Text3", "4", false},    {"Text4", "10000", false},   {"Text5", "3", false},
+      {"Text6", "3", false},     {"Combo1", "CU     1", false}, {"Text7", "900", false}, {"Text49", "3", true},
+      {"Combo4", "CU     1", true}, {"txtmin", "900", true}, {"Text27", "12.4", false}, {"Text28", "6.2", false},
+      {"Text13", "15", false},   {"Text14", "880.0", false}, {"Text25", "1.2", true},   {"Text38", "3", true},
+      {"txtt12", "8.0", true},   {"Text59", "4.0", true},   {"Text60", "18.2", true},
+  };
+  for (const auto& t : typed)
+    if (synoptic || !t.synoptic_only) ws.set_text(*ws.control(t.box), t.text);
+  if (synoptic) ws.click(k.Cmdsynop);
   ws.click(k.Command4);
   ws.click(k.Combo7);
   ws.choose(k.Combo7, "احمد رضايي");

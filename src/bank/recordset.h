@@ -28,10 +28,9 @@ class Recordset {
   void open(const std::filesystem::path& file, std::string_view table);
   void close();
   bool is_open() const { return db_.is_open(); }
-  // Its writes then go on without waiting for the disk: the one who writes
-  // flushes the bank after each write that must last (the reports' table, whose
-  // save ends in one flush of everything it wrote).
-  void commit_without_waiting() { db_.exec("PRAGMA synchronous=NORMAL"); }
+  // See Database::commit_without_waiting (the reports' table, whose save ends in
+  // one flush of everything it wrote).
+  void commit_without_waiting() { db_.commit_without_waiting(); }
   const std::filesystem::path& file() const { return db_.file(); }
   const std::string& table() const { return table_; }
   const std::vector<std::string>& columns() const { return cols_; }

@@ -35,6 +35,9 @@ class Database {
   Database& operator=(const Database&) = delete;
 
   bool is_open() const { return db_ != nullptr; }
+  // Commits then go on without waiting for the disk: whoever writes flushes the
+  // bank (flush_bank) after each write that must last.
+  void commit_without_waiting() { exec("PRAGMA synchronous=NORMAL"); }
   const std::filesystem::path& file() const { return file_; }
   void exec(std::string_view sql);
   // A statement ready to bind and step. The same SQL asked again while the first

@@ -113,7 +113,7 @@ Database& open_store(Workstation& ws) {
     // The row follows every change of the panel and is only the panel as last
     // left: its writes need not wait for the disk. The next save of a report
     // flushes the same log to the disk with them.
-    db->exec("PRAGMA synchronous=NORMAL");
+    db->commit_without_waiting();
     prepare_store(*db);
     p.store = std::move(db);
     p.store_path = path;
