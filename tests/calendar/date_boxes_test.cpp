@@ -19,6 +19,13 @@ void put(Control& y, Control& m, Control& d, const Dates& v) {
   d.text = v.day;
 }
 
+void expect_shown(const Control& y, const Control& m, const Control& d, const Dates& want, const Dates& typed) {
+  SCOPED_TRACE(typed.year + "/" + typed.month + "/" + typed.day);
+  EXPECT_EQ(y.text, want.year);
+  EXPECT_EQ(m.text, want.month);
+  EXPECT_EQ(d.text, want.day);
+}
+
 TEST(DateBoxes, AGregorianKeyFillsThePersianGroup) {
   const struct {
     Dates in;
@@ -44,10 +51,7 @@ TEST(DateBoxes, AGregorianKeyFillsThePersianGroup) {
     put(k.TXTYEARmi, k.TXTMONTHMI, k.TXTDAYmi, c.in);
     put(k.TXTYEARsh, k.TXTMONTHSH, k.TXTDAYsh, {"keep", "keep", "keep"});
     gregorian_date_key_up(ws, c.key_in_day);
-    const std::string what = c.in.year + "-" + c.in.month + "-" + c.in.day;
-    EXPECT_EQ(k.TXTYEARsh.text, c.out.year) << what;
-    EXPECT_EQ(k.TXTMONTHSH.text, c.out.month) << what;
-    EXPECT_EQ(k.TXTDAYsh.text, c.out.day) << what;
+    expect_shown(k.TXTYEARsh, k.TXTMONTHSH, k.TXTDAYsh, c.out, c.in);
   }
 }
 
@@ -74,10 +78,7 @@ TEST(DateBoxes, APersianKeyFillsTheGregorianGroup) {
     put(k.TXTYEARmi, k.TXTMONTHMI, k.TXTDAYmi, {"keep", "keep", "keep"});
     const Control* changed[] = {&k.TXTYEARsh, &k.TXTMONTHSH, &k.TXTDAYsh};
     shamsi_date_key_up(ws, *changed[c.changed]);
-    const std::string what = c.in.year + "/" + c.in.month + "/" + c.in.day;
-    EXPECT_EQ(k.TXTYEARmi.text, c.out.year) << what;
-    EXPECT_EQ(k.TXTMONTHMI.text, c.out.month) << what;
-    EXPECT_EQ(k.TXTDAYmi.text, c.out.day) << what;
+    expect_shown(k.TXTYEARmi, k.TXTMONTHMI, k.TXTDAYmi, c.out, c.in);
   }
 }
 
