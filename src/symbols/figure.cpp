@@ -130,7 +130,7 @@ void octas(Pen& p, double x, double y, double r, int n) {
 }
 
 // Barograph traces of the tendency characteristic, in units of a 20 by 16 box.
-void tendency(Pen& p, const Mark& m) {
+void tendency(Pen& p, const Primitive& m) {
   static const std::vector<std::pair<double, double>> traces[9] = {
       {{-10, 6}, {0, -6}, {10, 2}},      // 0 up, then down; same or higher
       {{-10, 6}, {0, -6}, {10, -6}},     // 1 up, then steady
@@ -155,7 +155,7 @@ void tendency(Pen& p, const Mark& m) {
   p.path_end();
 }
 
-void draw(Pen& p, const Mark& m) {
+void draw(Pen& p, const Primitive& m) {
   const double x = m.x, y = m.y, s = m.w;
   switch (m.shape) {
     case Shape::Dot: p.disc(x, y, 3.6 * s); break;
@@ -392,7 +392,7 @@ void draw(Pen& p, const Mark& m) {
 
 void append_figure_svg(std::string& out, const Figure& figure) {
   Pen p{out};
-  for (const Mark& m : figure) draw(p, m);
+  for (const Primitive& m : figure) draw(p, m);
 }
 
 std::string figure_svg(const Figure& figure) {

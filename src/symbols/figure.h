@@ -38,16 +38,16 @@ enum class Shape {
   Letter,       // text (a sky letter) centred on x,y
 };
 
-struct Mark {
+struct Primitive {
   Shape shape;
   float x = 0, y = 0;
   float w = 1, h = 0;
   int arg = 0;
   std::string_view text = {};  // Letter only
-  bool operator==(const Mark&) const = default;
+  bool operator==(const Primitive&) const = default;
 };
 
-using Figure = std::vector<Mark>;
+using Figure = std::vector<Primitive>;
 
 // The SVG elements of a figure, without the document around them.
 void append_figure_svg(std::string& out, const Figure& figure);

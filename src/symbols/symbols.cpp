@@ -12,11 +12,11 @@ namespace obsdesk {
 
 namespace {
 
-Mark mk(Shape shape, float x, float y, float w = 1, float h = 0, int arg = 0) { return Mark{shape, x, y, w, h, arg}; }
-Mark line(float x1, float y1, float x2, float y2) { return mk(Shape::Line, x1, y1, x2 - x1, y2 - y1); }
-Mark hbar(float x1, float x2, float y) { return line(x1, y, x2, y); }
+Primitive mk(Shape shape, float x, float y, float w = 1, float h = 0, int arg = 0) { return Primitive{shape, x, y, w, h, arg}; }
+Primitive line(float x1, float y1, float x2, float y2) { return mk(Shape::Line, x1, y1, x2 - x1, y2 - y1); }
+Primitive hbar(float x1, float x2, float y) { return line(x1, y, x2, y); }
 
-void add(Figure& f, std::initializer_list<Mark> marks) { f.insert(f.end(), marks); }
+void add(Figure& f, std::initializer_list<Primitive> marks) { f.insert(f.end(), marks); }
 
 // Precipitation drops (dot, comma, asterisk) in the patterns that tell
 // intermittent from continuous and slight from heavy:
@@ -58,16 +58,16 @@ void change_bar(Figure& f, Change c, float half_width) {
 
 Figure ww_figure(int ww) {
   Figure f;
-  auto past_hour = [&](std::initializer_list<Mark> marks) {
+  auto past_hour = [&](std::initializer_list<Primitive> marks) {
     // The phenomenon on the left, the bracket of "in the past hour" after it.
     add(f, marks);
     f.push_back(mk(Shape::Bracket, 14, 0, 1, 13));
   };
-  auto shower = [&](int bar, std::initializer_list<Mark> above) {
+  auto shower = [&](int bar, std::initializer_list<Primitive> above) {
     add(f, above);
     f.push_back(mk(Shape::InvTriangle, 0, 8, 1, 0, bar));
   };
-  auto storm_after = [&](std::initializer_list<Mark> now) {
+  auto storm_after = [&](std::initializer_list<Primitive> now) {
     // Thunderstorm in the past hour, precipitation now.
     f.push_back(mk(Shape::Thunder, -14, 0, 0.9f));
     f.push_back(mk(Shape::Bracket, 2, 0, 1, 13));
@@ -215,7 +215,7 @@ Figure past_weather_figure(int w) {
 }
 
 // The ground surface, with its extent: 1 less than half, 2 half or more, 3 all.
-Mark ground(int extent = 3, float y = 10) {
+Primitive ground(int extent = 3, float y = 10) {
   const float right = extent == 1 ? 0 : extent == 2 ? 7 : 15;
   return hbar(-15, right, y);
 }
@@ -360,7 +360,7 @@ struct Library {
     SymbolTable sky{"sky", "Sky letters", {}};
     for (const char* letters : {"b", "c", "bc", "o", "by", "cy", "bcy", "oy"}) {
       const std::string id = std::string("sky_") + letters;
-      figures.emplace(id, Figure{Mark{Shape::Letter, 0, 0, 1, 0, 0, letters}});
+      figures.emplace(id, Figure{Primitive{Shape::Letter, 0, 0, 1, 0, 0, letters}});
       sky.ids.push_back(id);
     }
     figures.emplace("clear-sky", figures.at("N0"));

@@ -137,8 +137,12 @@ SynopReading read_synop(std::string_view text) {
       case 4: rd.pressure(r.P); break;
       case 5: {
         std::optional<int> ppp;
-        if (!rd.take(1, 1, r.a) || !rd.take(2, 3, ppp) || (r.a && *r.a > 8)) rd.odd("not a tendency");
-        else if (ppp) r.ppp = *ppp / 10.0;
+        if (!rd.take(1, 1, r.a) || !rd.take(2, 3, ppp) || (r.a && *r.a > 8)) {
+          r.a.reset();
+          rd.odd("not a tendency");
+        } else if (ppp) {
+          r.ppp = *ppp / 10.0;
+        }
         break;
       }
       case 6: rd.precipitation(); break;
