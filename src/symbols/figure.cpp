@@ -365,11 +365,11 @@ void draw(Pen& p, const Primitive& m) {
       p.out += 'M';
       p.pt(x, y);
       p.out += " L";
-      p.pt(x + m.w - 4, y);
+      p.pt(x + m.w - 5, y);
       p.out += " Q";
-      p.pt(x + m.w + 1, y);
+      p.pt(x + m.w + 2, y);
       p.out += ' ';
-      p.pt(x + m.w, y + d * 6);
+      p.pt(x + m.w + 1, y + d * 9);
       p.path_end();
       break;
     }

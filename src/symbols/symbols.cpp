@@ -243,10 +243,12 @@ Figure ground_figure(int e) {
 Figure snow_ground_figure(int e) {
   Figure f;
   auto cover = [&](int extent, int flakes, bool uneven) {
+    // An uneven layer lies as a wave on the ground, the flakes above it.
+    const float y = uneven ? -10 : -2;
     f.push_back(ground(extent));
-    if (flakes == 1) f.push_back(mk(Shape::Asterisk, -3, -2, 0.8f));
-    else add(f, {mk(Shape::Asterisk, -9, -2, 0.7f), mk(Shape::Asterisk, 5, -2, 0.7f)});
-    if (uneven) f.push_back(mk(Shape::Wave, 0, 5, 30, 0, 2));
+    if (flakes == 1) f.push_back(mk(Shape::Asterisk, -3, y, 0.8f));
+    else add(f, {mk(Shape::Asterisk, -9, y, 0.7f), mk(Shape::Asterisk, 5, y, 0.7f)});
+    if (uneven) f.push_back(mk(Shape::Wave, 0, 6, 30, 0, 2));
   };
   switch (e) {
     case 0: add(f, {ground(), mk(Shape::Triangle, 0, 0)}); break;  // mainly ice
