@@ -391,6 +391,14 @@ std::string symbol_svg(std::string_view picture_id) {
 
 const std::vector<SymbolTable>& symbol_tables() { return library().tables; }
 
+std::string cloud_picture(std::string_view level, std::string_view type_text) {
+  while (!type_text.empty() && type_text.back() == ' ') type_text.remove_suffix(1);
+  if (type_text.empty()) return {};
+  const char figure = type_text.back();
+  if (figure < '1' || figure > '9') return {};
+  return std::string(level) + figure;
+}
+
 std::string symbol_code(std::string_view id) {
   if (id.starts_with("sky_")) return std::string(id.substr(4));
   if (id == "clear-sky") return "clear";

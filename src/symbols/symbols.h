@@ -39,6 +39,12 @@ struct SymbolTable {
 };
 const std::vector<SymbolTable>& symbol_tables();
 
+// The cloud symbol of a cloud-type list text of the entry screen ("CU     1",
+// "NS     2", "CC,CS  9"): the level's prefix ("CL", "CM" or "CH") and the
+// figure the text ends in. "" for type 0, for "X" (hidden by a lower layer) and
+// for an empty text: no symbol is drawn.
+std::string cloud_picture(std::string_view level, std::string_view type_text);
+
 // The code figure shown under a symbol on the sheet: "63" for ww63, "5" for Ep5.
 std::string symbol_code(std::string_view picture_id);
 

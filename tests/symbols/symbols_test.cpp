@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/frm_kashf.h"
+#include "core/record.h"
 #include "physics/tendency.h"
 #include "pickers/board_tables.h"
 #include "pickers/weather_tables.h"
@@ -30,6 +31,20 @@ TEST(Symbols, EveryPictureOfTheScreensAndBoardsHasASymbol) {
   FrmKashf entry;
   for (Control* c : entry.controls())
     if (c->kind == Kind::Image && !c->text.empty()) ids.push_back(c->text);
+
+  // The cloud-type lists of the entry screen draw their cloud's symbol; type 0
+  // and a layer hidden by a lower one ("X") draw none.
+  std::size_t none = 0;
+  for (auto [level, items] : {std::pair{"CL", &low_cloud_types()}, std::pair{"CM", &middle_cloud_types()},
+                              std::pair{"CH", &high_cloud_types()}}) {
+    for (const std::string& item : *items) {
+      const std::string id = cloud_picture(level, item);
+      if (id.empty()) ++none;
+      else ids.push_back(id);
+    }
+  }
+  EXPECT_EQ(none, 6u);
+  EXPECT_EQ(cloud_picture("CM", "NS     2"), "CM2");
 
   for (const std::string& id : ids) {
     SCOPED_TRACE(id);
