@@ -4,6 +4,7 @@
 #include <string>
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <vector>
 
 #include "symbols/station_model.h"
@@ -133,6 +134,35 @@ TEST(StationModel, TheWorkedExampleIsPlacedAsTheCentrePlotsIt) {
     if (has("lower") || e.place == "below" || e.place == "bottom") {
       EXPECT_GT(e.y, 0);
     }
+  }
+}
+
+// The reports the SYNOP coder's tests hold, section 0 in front, plot without a
+// group the reader cannot read: the reader and the coder agree on every group.
+TEST(StationModel, TheCodersReportsPlotWhole) {
+  struct Case {
+    std::string file;
+    std::vector<std::string> want;
+  };
+  const Case cases[] = {
+      {"worked-example-12utc.txt",
+       {"N=N5", "TT=25", "PPP=150", "VV=58", "ppp=+12", "a=a3", "TdTd=12", "CL=CL1", "Nh=3", "h=5", "RRR=0", "tR=1",
+        "wind=240/10"}},
+      {"full-06utc.txt",
+       {"N=N7", "CH=CH1", "CM=CM3", "TT=8", "PPP=187", "VV=62", "ww=ww80", "ppp=+08", "a=a2", "TdTd=-2", "CL=CL9",
+        "Nh=5", "W1=W8", "h=5", "RRR=3", "tR=1", "wind=270/10"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.file);
+    std::ifstream in(std::string(OBSDESK_SOURCE_DIR) + "/tests/data/synop/" + c.file);
+    ASSERT_TRUE(in);
+    std::string report;
+    std::getline(in, report);
+    const StationModel m = station_model(report);
+    EXPECT_EQ(m.odd, std::vector<std::string>{});
+    std::vector<std::string> got;
+    for (const PlotElement& e : m.elements) got.push_back(e.element + "=" + e.text);
+    EXPECT_EQ(got, c.want);
   }
 }
 
