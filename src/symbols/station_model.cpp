@@ -66,27 +66,27 @@ StationModel station_model(const SynopReading& r) {
   symbol("N", "centre", 0, 0, r.N ? "N" + std::to_string(*r.N) : "N/");
   if (r.CH && *r.CH > 0) symbol("CH", "top", 0, -46, "CH" + std::to_string(*r.CH));
   if (r.CM && *r.CM > 0) symbol("CM", "above", 0, -26, "CM" + std::to_string(*r.CM));
-  if (r.TT) text("TT", "upper left", -16, -12, degrees(*r.TT));
+  if (r.TT) text("TT", "upper left", -14, -20, degrees(*r.TT));
   if (r.P) {
     const long tenths = std::lround(*r.P * 10) % 1000;
-    text("PPP", "upper right", 16, -12, std::string(1, char('0' + tenths / 100)) + two_figures(int(tenths % 100)));
+    text("PPP", "upper right", 14, -20, std::string(1, char('0' + tenths / 100)) + two_figures(int(tenths % 100)));
   }
-  if (r.VV) text("VV", "far left", -46, 4, two_figures(*r.VV));
-  if (r.ww && *r.ww > 3) symbol("ww", "left", -26, 0, "ww" + two_figures(*r.ww));
+  if (r.VV) text("VV", "far left", -48, 4, two_figures(*r.VV));
+  if (r.ww && *r.ww > 3) symbol("ww", "left", -27, 0, "ww" + two_figures(*r.ww));
   if (r.ppp) {
     const int tenths = int(std::lround(*r.ppp * 10));
     const char* sign = r.a && *r.a <= 3 ? "+" : r.a && *r.a >= 5 ? "-" : "";
-    text("ppp", "right", 16, 4, sign + (tenths < 10 ? "0" + std::to_string(tenths) : std::to_string(tenths)));
+    text("ppp", "right", 14, 4, sign + (tenths < 10 ? "0" + std::to_string(tenths) : std::to_string(tenths)));
   }
   if (r.a) symbol("a", "far right", 56, 0, "a" + std::to_string(*r.a));
-  if (r.TdTd) text("TdTd", "lower left", -16, 20, degrees(*r.TdTd));
+  if (r.TdTd) text("TdTd", "lower left", -14, 24, degrees(*r.TdTd));
   if (r.CL && *r.CL > 0) symbol("CL", "below", 0, 24, "CL" + std::to_string(*r.CL));
-  if (r.Nh) text("Nh", "below right", 14, 30, std::to_string(*r.Nh));
-  if (r.W1 && *r.W1 > 2) symbol("W1", "lower right", 26, 20, "W" + std::to_string(*r.W1));
-  if (r.W2 && *r.W2 > 2) symbol("W2", "lower right", 44, 20, "W" + std::to_string(*r.W2));
+  if (r.Nh) text("Nh", "below right", 13, 30, std::to_string(*r.Nh));
+  if (r.W1 && *r.W1 > 2) symbol("W1", "lower right", 34, 22, "W" + std::to_string(*r.W1));
+  if (r.W2 && *r.W2 > 2) symbol("W2", "lower right", 52, 22, "W" + std::to_string(*r.W2));
   if (r.h) text("h", "bottom", 0, 48, std::to_string(*r.h));
-  if (r.RRR) text("RRR", "bottom right", 16, 44, precipitation(*r.RRR));
-  if (r.tR) text("tR", "bottom right", 40, 44, std::to_string(*r.tR));
+  if (r.RRR) text("RRR", "bottom right", 16, 46, precipitation(*r.RRR));
+  if (r.tR) text("tR", "bottom right", 40, 46, std::to_string(*r.tR));
 
   // The wind: a shaft toward the direction it blows from, barbs by 5 knots.
   if (r.ff) {
