@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <random>
 #include <vector>
 
 #include "symbols/station_model.h"
@@ -207,6 +208,17 @@ TEST(StationModel, AnyTextGivesAWellFormedPicture) {
                            "32558 50201 50202 50203 50204"}) {
     SCOPED_TRACE(text);
     EXPECT_EQ(xml_problem(station_model_svg(text)), "");
+  }
+  // Texts of report figures, slashes, blanks and letters in any order: the
+  // reader never fails, and the picture stays well-formed.
+  std::mt19937 rng(22);
+  const std::string alphabet = "0123456789/////     =AX9";
+  for (int n = 0; n < 3000; ++n) {
+    std::string text = n % 3 == 0 ? "AAXX " : "";
+    const int length = int(rng() % 90);
+    for (int i = 0; i < length; ++i) text += alphabet[rng() % alphabet.size()];
+    const std::string svg = station_model_svg(text);
+    ASSERT_EQ(xml_problem(svg), "") << text;
   }
   // A group the reader could not read is shown under the model.
   EXPECT_NE(station_model_svg("32558 52404 10x54=").find("group 10x54: not a temperature"), std::string::npos);
