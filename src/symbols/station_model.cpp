@@ -26,7 +26,8 @@ std::string precipitation(int rrr) {
   return std::to_string(rrr);
 }
 
-// A scratch group of SVG for the symbols, with the pen of the figures.
+// A symbol placed and scaled in the model; an id with no symbol (cover not
+// reported) draws the bare station circle.
 void symbol_at(std::string& out, std::string_view id, double x, double y, double scale) {
   const Figure* f = symbol_figure(id);
   out += "<g transform=\"translate(";
@@ -37,7 +38,7 @@ void symbol_at(std::string& out, std::string_view id, double x, double y, double
   append_number(out, scale);
   out += ")\">";
   if (f) append_figure_svg(out, *f);
-  else out += "<circle r=\"14\"/>";  // cover not reported: the bare circle
+  else out += "<circle r=\"14\"/>";
   out += "</g>";
 }
 
