@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+
 #include <chrono>
+#include <cstdlib>
 #include <sstream>
 
 #include "support/test_support.h"
@@ -89,6 +92,17 @@ TEST(Runner, LongLines) {
   r = run("start\nclick FrmMain.Command2\nclick FrmDisplayKashf.newW\ntype Text74 " + std::string(300000, 'x') + "\n");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+// A folder given as the script is an error of the command line, not an empty
+// script that passes.
+TEST(RunnerProgram, AFolderIsNoScript) {
+  test::TempDir dir;
+  const std::string command = std::string(OBSDESK_CLI) + " --bank " + (dir.path() / "bank").string() + " run " +
+                              dir.path().string() + " 2>/dev/null";
+  const int status = std::system(command.c_str());
+  ASSERT_TRUE(WIFEXITED(status));
+  EXPECT_EQ(WEXITSTATUS(status), 2);
 }
 
 }  // namespace
