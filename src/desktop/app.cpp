@@ -20,11 +20,11 @@ void prepare_application(QApplication& app) {
   if (qt_fa->load(QLocale(QLocale::Persian, QLocale::Iran), QStringLiteral("qtbase"), QStringLiteral("_"),
                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(qt_fa);
-  // Noto Sans Arabic keeps its Persian letters and digits clear at small sizes;
-  // Latin codes fall back to the system's sans serif.
-  QFont font(QStringLiteral("Noto Sans Arabic"));
-  font.setFamilies({QStringLiteral("Noto Sans Arabic"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
-  font.setPointSize(10);
+  // Noto Sans for the figures and report codes, Noto Sans Arabic for the Persian
+  // words: both clear at small sizes, and the Latin face keeps the boxes low.
+  QFont font(QStringLiteral("Noto Sans"));
+  font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Sans Arabic"), QStringLiteral("DejaVu Sans")});
+  font.setPointSize(9);
   QApplication::setFont(font);
 }
 

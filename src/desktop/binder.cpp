@@ -301,7 +301,11 @@ void Binder::sync_control(Bound& b) {
     b.combo->setEditText(q(c.text));
   }
   if (b.edit) {
-    if (b.edit->text().toStdString() != c.text) b.edit->setText(q(c.text));
+    if (b.edit->text().toStdString() != c.text) {
+      b.edit->setText(q(c.text));
+      // A long text (the heading, a report) is read from its start.
+      if (!b.edit->hasFocus()) b.edit->setCursorPosition(0);
+    }
     if (static_cast<int>(c.locked) != b.locked) {
       b.edit->setReadOnly(c.locked);
       b.locked = c.locked;
@@ -366,6 +370,8 @@ void Binder::sync_focus() {
     if (w && w->isVisible() && QApplication::activeWindow() != w) {
       w->raise();
       w->activateWindow();
+      // At once, not when the window system answers: the next key must find it.
+      QApplication::setActiveWindow(w);
     }
   }
   Control* c = ws_.focused();

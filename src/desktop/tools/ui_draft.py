@@ -67,6 +67,10 @@ CAPTIONS = {
     'Image1': 'هوای حاضر', 'Image2': 'W1', 'Image9': 'W2',
     'Image10': 'هوای حاضر', 'Image8': 'هوای اخیر', 'Image7': 'ساعت گذشته',
     'Text74': 'ملاحظات', 'txtSYN': 'سینوپ', 'TXTMET': 'متار', 'TXTSPE': 'اسپیسی',
+    'TXTSEL': 'نوع گزارش', 'TXTNAM': 'دیده‌بان', 'Text45': 'نوع', 'Text46': 'نوع', 'Text47': 'نوع',
+    'Text54': 'نوع', 'Text52': 'حالت زمین', 'TXTSCDATA': 'سطر SCDATA',
+    'TXTWW4': 'هوای حاضر', 'TXTWW5': 'W1', 'TXTWW6': 'W2', 'TXTWW1': 'هوای حاضر', 'TXTWW3': 'هوای اخیر',
+    'TXTWW2': 'ساعت گذشته',
     'Text6': 'مقدار', 'Combo1': 'نوع', 'Text7': 'ارتفاع (m)',
     'Text17': 'مقدار', 'Combo6': 'نوع', 'Text16': 'ارتفاع (m)',
     'Text23': 'مقدار', 'Combo9': 'نوع', 'Text22': 'ارتفاع (m)',
@@ -143,7 +147,10 @@ class Form:
     def grid(self, rows, ind, lname):
         """rows: list of lists of cells; a cell is NAME, (CAPTION, NAME), ('@LABEL', NAME), a Group, or None."""
         pad = ' ' * ind
-        out = [pad + '<layout class="QGridLayout" name="%s">' % lname]
+        out = [pad + '<layout class="QGridLayout" name="%s">' % lname,
+               pad + ' <property name="spacing"><number>3</number></property>']
+        for m in ('leftMargin', 'rightMargin', 'topMargin', 'bottomMargin'):
+            out.append(pad + ' <property name="%s"><number>4</number></property>' % m)
         for r, row in enumerate(rows):
             col = 0
             for cell in row:
@@ -186,6 +193,8 @@ class Group:
     def xml(self, f, ind):
         name = self.name or f.uid('group')
         props = [('title', '<string>%s</string>' % escape(self.title))]
+        if self.name in LTR:
+            props.append(('layoutDirection', '<enum>Qt::LeftToRight</enum>'))
         if self.name:
             f.placed.add(self.name)
         inner = f.grid(self.rows, ind + 1, f.uid('grid'))
@@ -261,64 +270,97 @@ def auto_rows(f, frame, columns):
     return rows
 
 
+def register_rows(f, browser):
+    """The rows of the observer's register, shared by the entry screen and the browser."""
+    t = f.table
+    has = lambda n: n in t
+    c = lambda n: ('', n)
+    head = Box([
+        Group('گزارش', [[c('TXTSEL') if browser else c('Combo5'), c('Text1'), c('txt1'), c('Text48')]]),
+        Group('تاریخ میلادی', [[c('TXTYEARmi'), c('TXTMONTHMI'), c('TXTDAYmi')]]),
+        Group('تاریخ شمسی', [[c('TXTYEARsh'), c('TXTMONTHSH'), c('TXTDAYsh')]]),
+        Group('ایستگاه', [['Text44']]),
+    ])
+    nlc = [c('Txt_NLC')] + (['Cmb_NLC'] if has('Cmb_NLC') else []) + [c('TXT_QNT')]
+    upper = Box([
+        Group('باد', [[c('Text2'), c('Text3'), c('TXTGUSTY')],
+                      [c('Text40'), c('Text39')],
+                      [(('@Label98' if has('Label98') else 'تندباد روز'), 'Txttond'),
+                       ('@Label96', 'Txtmaxwind')]]),
+        Group('دید', [[c('Text4'), c('TxtVM')], [c('Text26')], [c('CMbMAX'), c('CMbMIN')]]),
+        Group('ابر', [[c('Text5'), c('Text12')], nlc]),
+        Group('دما و رطوبت', [[c('Text27'), c('Text28'), c('Text13')],
+                             [c('Text29'), c('Text30'), c('Text31')],
+                             [c('txtt12')]]),
+        Group('بیشینه و کمینه', [[c('Text59')], [c('Text60')]], name='Frame15'),
+    ])
+    low_types = ('Text45', 'Text43', 'Text42') if browser else ('Combo1', 'Combo2', 'Combo3')
+    cloud = Box([
+        Group('ابرهای پایین', [[c('Text6'), c(low_types[0]), c('Text7')],
+                               [None, 'Text8', None, low_types[1], None, 'Text9'],
+                               [None, 'Text10', None, low_types[2], None, 'Text11']], name='Frame1'),
+        Group('ابر میانی', [[c('Text17')], [c('Text47' if browser else 'Combo6')], [c('Text16')]], name='Frame2'),
+        Group('ابر بالا', [[c('Text23')], [c('Text54' if browser else 'Combo9')], [c('Text22')]], name='Frame3'),
+        Group('ابر پایین سینوپ', [[c('Text49')], [c('Text46' if browser else 'Combo4')]], name='Frame16'),
+        Group('', [[('@Label42', 'txtmin')], ['Image6']]),
+        Group('فشار', [[c('Text14')] + ([] if browser else [Group('', [[c('Text41')]], name='FraNegar')]) + [c('Text15')],
+                       [c('Text18'), c('Text21')],
+                       [c('Text19'), c('Text20')],
+                       [c('Text24')]]),
+        Group('تغییرات فشار', [[(('@Label17' if has('Label17') else 'مقدار تغییرات'), 'Text25')], [c('Text38')]]),
+    ])
+    rain = [['Labrain', c('Text50')] + ([] if browser else [c('Text42')]), [c('txtpast6'), c('Text51')], [c('Text53')]]
+    ground_cells = [[c('Text68'), c('Text69')], [c('Text70'), c('Text52' if browser else 'Image3')]]
+    lower = Box(([] if False else [Group('بارندگی', rain, name='Frame6')]) + [
+        Group('دمای خاک', [[c('Text32'), c('Text33'), c('Text34')],
+                           [c('Text35'), c('Text36'), c('Text37')]], name='Frame5')] +
+        ([] if browser else [Group('سطح زمین', [[c('Text43')]], name='FraTmaxS')]) + [
+        Group('تشت تبخیر', [[c('Text63'), c('Text64')], [c('Text65'), c('Text66')], [c('Text67')]], name='Frame8'),
+        Group('زمین و برف', ground_cells, name='Frame9'),
+        Group('تابش', [[c('Text71')], [c('Text72')], [c('Text73')]], name='Frame10'),
+        Group('آفتاب', [[('@Label109', 'Txttimesun')]]),
+    ])
+    if browser:
+        weather = Box([
+            Group('هوای سینوپ', [[c('TXTWW4'), c('TXTWW5'), c('TXTWW6')]], name='Frame17'),
+            Group('هوای متار', [[c('TXTWW1'), c('TXTWW3'), c('TXTWW2')]], name='Frame12'),
+            Group('', [[c('TXTNAM'), 'Image11', 'Label94']]),
+        ])
+    else:
+        weather = Box([
+            Group('هوای سینوپ', [[c('Image1'), c('Image2'), c('Image9')]], name='Frame17'),
+            Group('هوای متار', [[c('Image10'), c('Image8'), c('Image7'), 'Image4', 'LabVC']], name='Frame12'),
+        ])
+    texts = [[c('Text74')], [c('txtSYN')], [c('TXTMET')], [c('TXTSPE')]]
+    if browser:
+        texts.append([c('TXTSCDATA')])
+    codes = Group('ملاحظات و گزارش‌های کد شده', texts)
+    return [head, upper, cloud, lower, weather, codes]
+
+
 def kashf(table):
     global LTR, WIDE
     LTR = {'txtSYN', 'TXTMET', 'TXTSPE', 'Text48', 'Text44'}
-    WIDE = {'Text44': 420, 'Text74': 600, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'Combo7': 200,
-            'Combo5': 130, 'Cmb_NLC': 120}
+    WIDE = {'Text44': 330, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'Combo7': 190,
+            'Combo5': 120, 'Cmb_NLC': 110, 'Combo1': 80, 'Combo2': 80, 'Combo3': 80, 'Combo4': 80,
+            'Combo6': 80, 'Combo9': 80, 'CMbMAX': 70, 'CMbMIN': 70}
     f = Form('FrmKashf', table, 'ثبت دیده‌بانی')
-    head = Box([
-        Group('گزارش', [[('', 'Combo5'), ('', 'Text1'), ('', 'txt1'), ('', 'Text48')]]),
-        Group('تاریخ میلادی', [[('', 'TXTYEARmi'), ('', 'TXTMONTHMI'), ('', 'TXTDAYmi')]]),
-        Group('تاریخ شمسی', [[('', 'TXTYEARsh'), ('', 'TXTMONTHSH'), ('', 'TXTDAYsh')]]),
-        Group('ایستگاه', [['Text44']]),
-    ])
-    wind_vis = Box([
-        Group('باد', [[('', 'Text2'), ('', 'Text3'), ('', 'TXTGUSTY')],
-                      [('', 'Text40'), ('', 'Text39')],
-                      [('@Label98', 'Txttond'), ('@Label96', 'Txtmaxwind')]]),
-        Group('دید', [[('', 'Text4'), ('', 'TxtVM')], [('', 'Text26'), ('', 'CMbMAX'), ('', 'CMbMIN')]]),
-        Group('ابر', [[('', 'Text5'), ('', 'Text12')], [('', 'Txt_NLC'), 'Cmb_NLC', ('', 'TXT_QNT')]]),
-        Group('دما و رطوبت', [[('', 'Text27'), ('', 'Text28'), ('', 'Text13')],
-                             [('', 'Text29'), ('', 'Text30'), ('', 'Text31')],
-                             [('', 'txtt12')]]),
-        Group('بیشینه و کمینه', [[('', 'Text59')], [('', 'Text60')]], name='Frame15'),
-    ])
-    cloud = Box([
-        Group('ابرهای پایین', [[('', 'Text6'), ('', 'Combo1'), ('', 'Text7')],
-                               ['Text8', None, 'Combo2', None, 'Text9'],
-                               ['Text10', None, 'Combo3', None, 'Text11']], name='Frame1'),
-        Group('ابر میانی', [[('', 'Text17'), ('', 'Combo6'), ('', 'Text16')]], name='Frame2'),
-        Group('ابر بالا', [[('', 'Text23'), ('', 'Combo9'), ('', 'Text22')]], name='Frame3'),
-        Group('ابر پایین سینوپ', [[('', 'Text49'), ('', 'Combo4')], [('@Label42', 'txtmin')]], name='Frame16'),
-        'Image6',
-    ])
-    pressure = Box([
-        Group('فشار', [[('', 'Text14'), Group('', [[('', 'Text41')]], name='FraNegar'), ('', 'Text15'),
-                        ('', 'Text18'), ('', 'Text21')],
-                       [('', 'Text19'), ('', 'Text20'), ('', 'Text24'), ('@Label17', 'Text25'), ('', 'Text38')]]),
-        Group('بارندگی', [['Labrain', ('', 'Text50'), ('', 'Text42')], [('', 'txtpast6'), ('', 'Text51'), ('', 'Text53')]],
-              name='Frame6'),
-    ])
-    ground = Box([
-        Group('دمای خاک', [[('', 'Text32'), ('', 'Text33'), ('', 'Text34')],
-                           [('', 'Text35'), ('', 'Text36'), ('', 'Text37')]], name='Frame5'),
-        Group('سطح زمین', [[('', 'Text43')]], name='FraTmaxS'),
-        Group('تشت تبخیر', [[('', 'Text63'), ('', 'Text64'), ('', 'Text65')], [('', 'Text66'), ('', 'Text67')]],
-              name='Frame8'),
-        Group('زمین و برف', [[('', 'Text68'), ('', 'Text69')], [('', 'Text70'), ('', 'Image3')]], name='Frame9'),
-        Group('تابش', [[('', 'Text71'), ('', 'Text72'), ('', 'Text73')]], name='Frame10'),
-        Group('آفتاب', [[('@Label109', 'Txttimesun')]]),
-    ])
-    weather = Box([
-        Group('هوای سینوپ', [[('', 'Image1'), ('', 'Image2'), ('', 'Image9')]], name='Frame17'),
-        Group('هوای متار', [[('', 'Image10'), ('', 'Image8'), ('', 'Image7'), 'Image4', 'LabVC']], name='Frame12'),
-        Group('ملاحظات', [['Text74']]),
-    ])
-    codes = Group('گزارش‌های کد شده', [[('', 'txtSYN')], [('', 'TXTMET')], [('', 'TXTSPE')]])
     buttons = Box(['Cmdsynop', 'cmdsynop1218', 'Command4', 'Command8', 'Command5', 'Command1',
                    Group('', [[('', 'Combo7'), 'ZAKHIREH']]), 'Command12'])
-    return f, [head, wind_vis, cloud, pressure, ground, weather, codes, buttons]
+    return f, register_rows(f, False) + [buttons]
+
+
+def browser(table):
+    global LTR, WIDE, MULTILINE
+    MULTILINE = set()
+    LTR = {'txtSYN', 'TXTMET', 'TXTSPE', 'TXTSCDATA', 'Text48', 'Text44'}
+    WIDE = {'Text44': 330, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'TXTSCDATA': 1100,
+            'TXTSEL': 100, 'TXTNAM': 190}
+    for n in ('Text45', 'Text43', 'Text42', 'Text46', 'Text47', 'Text54'):
+        WIDE[n] = 80
+    f = Form('FrmDisplayKashf', table, 'گزارش‌ها')
+    buttons = Box(['newW', 'back', 'nextt', 'last', 'search', 'save', 'Command1', 'Command12'])
+    return f, [buttons] + register_rows(f, True)
 
 
 def fixcaps(body_fn):
@@ -375,7 +417,7 @@ def auto(name, title, columns, ltr_all=False, buttons=()):
     def make(table):
         global LTR, WIDE, MULTILINE
         MULTILINE = set()
-        LTR = {n for n, c in table.items() if c['kind'] == 'TextBox'} if ltr_all else \
+        LTR = {n for n, c in table.items() if c['kind'] in ('TextBox', 'Frame')} if ltr_all else \
             {'txtSYN', 'TXTMET', 'TXTSPE', 'TXTSCDATA', 'Text44', 'Text48'}
         WIDE = {'Text44': 420, 'txtSYN': 1000, 'TXTMET': 1000, 'TXTSPE': 1000, 'TXTSCDATA': 1000, 'Text74': 500,
                 'TXTSCDATA ': 1000}
@@ -416,8 +458,7 @@ SCREENS = {
     'FrmEntezar': simple('FrmEntezar', 'لطفا صبر کنید', [['Label1'], ['ProgressBar1']]),
     'FrmERR': simple('FrmERR', 'پیام', [['*Label1'], ['Command1', 'Command2']]),
     'FrmPol': pol,
-    'FrmDisplayKashf': auto('FrmDisplayKashf', 'گزارش‌ها', 8,
-                            buttons=('newW', 'back', 'nextt', 'last', 'search', 'save', 'Command1', 'Command12')),
+    'FrmDisplayKashf': lambda t: fixcaps(browser(t)),
     'FrmCode': auto('FrmCode', 'صفحه کد', 10, ltr_all=True, buttons=('Command1', 'Command2', 'Command3')),
 }
 
