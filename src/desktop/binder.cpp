@@ -35,6 +35,13 @@ QColor colour(long c) {
 
 bool is_box(const Control& c) { return c.kind == Kind::TextBox || c.kind == Kind::ComboBox; }
 
+// The screen's caption where the core gives one, else the form's own title.
+QString title_of(const Screen& s, const QWidget* form) {
+  if (!s.caption.empty()) return q(s.caption);
+  if (!form->windowTitle().isEmpty()) return form->windowTitle();
+  return q(s.name);
+}
+
 }  // namespace
 
 struct Binder::Bound {
@@ -87,7 +94,7 @@ void Binder::bind(Screen& screen, QWidget* form) {
   if (&screen == &ws_.FrmERR) flags = Qt::Tool | Qt::WindowStaysOnTopHint;
   auto* w = new QWidget(nullptr, flags);
   w->setObjectName(QStringLiteral("ui_window_") + q(screen.name));
-  w->setWindowTitle(q(screen.caption.empty() ? screen.name : screen.caption));
+  w->setWindowTitle(title_of(screen, form));
   if (&screen == &ws_.FrmERR) w->setAttribute(Qt::WA_ShowWithoutActivating);
   auto* layout = new QVBoxLayout(w);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -197,8 +204,16 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       if (win->window != watched) continue;
       if (syncing_ || ws_.ended()) return false;
       event->ignore();
-      if (win->screen == &ws_.FrmMain) send([&] { ws_.click(ws_.FrmMain.CmdEnd); });
-      else if (win->screen == &ws_.FrmERR) send([&] { ws_.click(ws_.FrmERR.Command1); });
+      if (win->screen == &ws_.FrmMain) {
+        send([&] { ws_.click(ws_.FrmMain.CmdEnd); });
+      } else if (win->screen == &ws_.FrmERR) {
+        send([&] { ws_.click(ws_.FrmERR.Command1); });
+      } else if (win->screen == &ws_.FrmDisplayKashf && !ws_.FrmKashf.visible) {
+        // The browser is the observer's main window while the start screen is
+        // hidden: closing it ends the program as "Exit" does. With a report open
+        // it stays, so that nothing typed is lost.
+        send([&] { ws_.unload(ws_.FrmMain); });
+      }
       return true;
     }
     return false;
@@ -348,7 +363,7 @@ void Binder::sync_window(Window& win) {
   if (shown && !w->isVisible()) {
     w->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     win.modal = modal;
-    const QString title = q(s.caption.empty() ? s.name : s.caption);
+    const QString title = title_of(s, win.form);
     if (w->windowTitle() != title) w->setWindowTitle(title);
     if (!win.sized) {
       // The window takes what its form asks, within the screen it stands on.

@@ -147,6 +147,36 @@ TEST(Binder, AModalScreenIsAModalWindow) {
   EXPECT_EQ(binder.window(ws.FrmFind)->windowModality(), Qt::ApplicationModal);
 }
 
+// The bank chooser runs before the click reaches the start screen's rule, which
+// reads the name it chose; a cancelled chooser leaves the paths as they were.
+TEST(Binder, TheChooserFillsWhatTheClickReads) {
+  struct Case {
+    std::string chosen;  // below the bank root; "" for a cancelled chooser
+    std::string kashf_path;
+  };
+  for (const Case& c : {Case{"VARDOK/BANK/OIII/ACCESS/Kashf.mdb", "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"},
+                        Case{"", "unchanged"}}) {
+    SCOPED_TRACE(c.chosen);
+    test::Station st;
+    Workstation& ws = st.start();
+    ws.FrmMain.txtpathnamebank1.text = "unchanged";
+    ws.FrmMain.Frame1.visible = true;
+    Binder binder(ws);
+    binder.bind_all();
+    binder.sync();
+    test::WidgetDriver hands(binder);
+    hands.click(ws.FrmMain.Option1);
+    ASSERT_TRUE(ws.FrmMain.Option1.value);
+    binder.before_click(ws.FrmMain.cmdOpen, [&] {
+      ws.set_text(ws.FrmMain.CommonDialog1, c.chosen.empty() ? "" : ws.Derive + c.chosen);
+      return true;
+    });
+    hands.click(ws.FrmMain.cmdOpen);
+    EXPECT_EQ(ws.FrmMain.txtpathnamebank1.text, c.kashf_path);
+    EXPECT_EQ(hands.shown_text(ws.FrmMain.txtpathnamebank1).toStdString(), c.kashf_path);
+  }
+}
+
 // The questions carry Qt's own buttons in Persian.
 TEST(Binder, QuestionsAnswerInPersian) {
   std::unique_ptr<QMessageBox> box(QtAsker::question_box(QStringLiteral("?")));

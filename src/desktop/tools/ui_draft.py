@@ -37,6 +37,13 @@ LTR = set()
 MULTILINE = set()
 WIDE = {}
 
+# Properties a few widgets need beyond their kind's.
+EXTRA = {
+    ('FrmERR', 'Label1'): [('wordWrap', '<bool>true</bool>'), ('minimumWidth', '<number>320</number>'),
+                           ('minimumHeight', '<number>48</number>')],
+    ('FrmEntezar', 'Label1'): [('minimumWidth', '<number>260</number>'), ('alignment', '<set>Qt::AlignCenter</set>')],
+}
+
 # Captions of the entry boxes, shared by the entry screen and the browser.
 CAPTIONS = {
     'Text1': 'ساعت UTC', 'txt1': 'ساعت و دقیقه', 'Combo5': 'نوع گزارش', 'Combo7': 'دیده‌بان کشیک',
@@ -124,6 +131,7 @@ class Form:
             props.append(('text', '<string>%s</string>' % escape(c['caption'])))
         if name in LTR:
             props.append(('layoutDirection', '<enum>Qt::LeftToRight</enum>'))
+        props += EXTRA.get((self.name, name), [])
         return cls, props
 
     def emit_widget(self, cls, name, props, ind, inner=''):
@@ -409,7 +417,7 @@ def pol(table):
     global LTR, MULTILINE, WIDE
     LTR, MULTILINE, WIDE = {'Text'}, {'Text'}, {}
     f = Form('FrmPol', table, 'رونوشت')
-    return f, [Group('', [['*Text']]),
+    return f, [Box(['Text'], stretch=False),
                Box(['Command2', 'Command3', 'Command4', 'Command5', 'Command1'])]
 
 
