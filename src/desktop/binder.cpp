@@ -14,11 +14,14 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSvgRenderer>
+#include <QPainter>
 #include <QVBoxLayout>
 #include <set>
 
 #include "core/workstation.h"
 #include "desktop/forms.h"
+#include "symbols/symbols.h"
 
 namespace obsdesk {
 
@@ -34,6 +37,26 @@ QColor colour(long c) {
 }
 
 bool is_box(const Control& c) { return c.kind == Kind::TextBox || c.kind == Kind::ComboBox; }
+
+// A picture box shows the symbol its picture id names, as large as the box
+// allows; an id with no symbol is shown as its text. The id stays in the tip.
+void show_picture(QLabel* l, const std::string& id) {
+  l->setToolTip(q(id));
+  const std::string svg = symbol_svg(id);
+  if (svg.empty()) {
+    l->setText(q(id));
+    return;
+  }
+  QSvgRenderer renderer(QByteArray::fromStdString(svg));
+  const int side = std::max(16, std::min(l->minimumWidth(), l->minimumHeight()) - 4);
+  const qreal ratio = l->devicePixelRatioF();
+  QPixmap pix(QSize(side, side) * ratio);
+  pix.setDevicePixelRatio(ratio);
+  pix.fill(Qt::transparent);
+  QPainter painter(&pix);
+  renderer.render(&painter, QRectF(0, 0, side, side));
+  l->setPixmap(pix);
+}
 
 // The screen's caption where the core gives one, else the form's own title.
 QString title_of(const Screen& s, const QWidget* form) {
@@ -328,6 +351,7 @@ void Binder::sync_control(Bound& b) {
     if (c.max_length > 0 && b.edit->maxLength() != c.max_length) b.edit->setMaxLength(c.max_length);
   } else if (c.text != b.text) {
     if (b.page) b.page->setPlainText(q(c.text));
+    else if (b.label && c.kind == Kind::Image) show_picture(b.label, c.text);
     else if (b.label) b.label->setText(q(c.text));
     else if (b.button) b.button->setText(q(c.text));
     else if (b.group && !c.text.empty()) b.group->setTitle(q(c.text));  // else the form's own title

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -77,6 +78,17 @@ TEST(Binder, TheWidgetsFollowTheCore) {
   b.binder->sync();
   EXPECT_TRUE(gust->isVisible());
   EXPECT_TRUE(caption->isVisible());
+
+  // A picture box draws the symbol its id names; an id with no symbol reads as text.
+  auto* picture = qobject_cast<QLabel*>(b.binder->widget(b.k.Image1));
+  ASSERT_NE(picture, nullptr);
+  b.k.Image1.text = "ww63";
+  b.binder->sync();
+  EXPECT_FALSE(picture->pixmap().isNull());
+  b.k.Image1.text = "no-such-picture";
+  b.binder->sync();
+  EXPECT_TRUE(picture->pixmap().isNull());
+  EXPECT_EQ(picture->text(), "no-such-picture");
 
   // A group the hour hides is hidden: the soil temperatures are not read at 06.
   EXPECT_FALSE(b.binder->widget(b.k.Frame5)->isVisible());
