@@ -1,5 +1,6 @@
 # obsdesk: the two everyday commands, and a few more.
-#   make run            build and run the demo session on a fresh demo bank
+#   make run            build and open the desktop on the demo bank (headless: the demo session)
+#   make screenshots    every screen of the observer's day as PNG under build/screenshots/
 #   make test           build with warnings as errors, run every test and the fuzz run
 #   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench          build and run the benchmarks
@@ -10,11 +11,12 @@
 SHELL := /bin/bash
 BUILD ?= build
 JOBS ?= $(shell nproc)
-PACKAGES := g++ cmake ninja-build pkg-config libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
+PACKAGES := g++ cmake ninja-build pkg-config libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev \
+  qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-translations-l10n libgl-dev fonts-noto-core
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOBSDESK_WERROR=ON
 
-.PHONY: deps configure run test test-sanitize fuzz bench symbols clean
+.PHONY: deps configure run screenshots test test-sanitize fuzz bench symbols clean
 
 deps:
 	@missing=""; \
@@ -28,10 +30,30 @@ deps:
 configure: deps
 	cmake -S . -B $(BUILD) -G Ninja $(CMAKE_FLAGS)
 
+# The desktop where a display is reachable; elsewhere the demo session runs
+# headless through the scenario runner, on a fresh demo bank.
 run: configure
-	cmake --build $(BUILD) --target obsdesk-cli -j $(JOBS)
-	rm -rf $(BUILD)/demo-bank
-	$(BUILD)/obsdesk-cli --bank $(BUILD)/demo-bank run examples/demo.scenario
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	  cmake --build $(BUILD) --target obsdesk -j $(JOBS) && \
+	  $(BUILD)/src/desktop/obsdesk --bank $(BUILD)/desktop-bank; \
+	else \
+	  cmake --build $(BUILD) --target obsdesk-cli -j $(JOBS) && \
+	  rm -rf $(BUILD)/demo-bank && \
+	  $(BUILD)/obsdesk-cli --bank $(BUILD)/demo-bank run examples/demo.scenario && \
+	  echo && \
+	  echo "No display is reachable here (neither DISPLAY nor WAYLAND_DISPLAY is set), so the demo" && \
+	  echo "session ran headless. Run 'make run' on a machine with a desktop to open the program," && \
+	  echo "or 'make screenshots' to see its screens as PNG files under $(BUILD)/screenshots/."; \
+	fi
+
+# The screens drawn on the offscreen platform, filled by examples/screenshots.scenario.
+screenshots: configure
+	cmake --build $(BUILD) --target obsdesk -j $(JOBS)
+	rm -rf $(BUILD)/screenshots $(BUILD)/screenshot-bank
+	QT_QPA_PLATFORM=offscreen $(BUILD)/src/desktop/obsdesk --bank $(BUILD)/screenshot-bank \
+	  --screenshots $(BUILD)/screenshots examples/screenshots.scenario 2>&1 \
+	  | grep -v -e 'does not support' -e XDG_RUNTIME_DIR; exit $${PIPESTATUS[0]}
+	@ls $(BUILD)/screenshots
 
 # The tests, then a million observer actions under the sanitizers.
 test: configure
@@ -53,8 +75,9 @@ fuzz: deps
 	build-sanitize/tests/obsdesk_fuzz --seed 1 --events $(FUZZ_EVENTS)
 
 bench: configure
-	cmake --build $(BUILD) --target obsdesk_bench -j $(JOBS)
+	cmake --build $(BUILD) --target obsdesk_bench obsdesk_desktop_bench -j $(JOBS)
 	$(BUILD)/bench/obsdesk_bench
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/obsdesk_desktop_bench 2>&1 | grep -v 'does not support'
 
 # Every weather symbol under its code: $(BUILD)/symbols.svg from the core, and
 # $(BUILD)/symbols.png drawn from it by Qt, offscreen.

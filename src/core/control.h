@@ -179,6 +179,9 @@ struct Screen {
   void snapshot_design();
   void reset_to_design();
 
+  // Shown modally: the caller waits for it to close (Workstation::show_modal).
+  bool modal() const { return static_cast<bool>(on_close_); }
+
  private:
   friend struct Control;
   friend class Workstation;

@@ -329,6 +329,33 @@ void Workstation::key_up(Control& c, std::string key) {
   });
 }
 
+void Workstation::key_edit(Control& c, std::string text, std::string key) {
+  input([&] {
+    require_reachable(c);
+    if (!c.focusable()) throw UsageError(c.full_name() + " takes no typing");
+    if (focused() != &c) {
+      focus(c);
+      settle();
+      if (focused() != &c) return;
+    }
+    // Persian and Arabic-Indic figures come in as ASCII, as they do when typed.
+    std::string typed;
+    for (const std::string& ch : characters(text)) typed += ch;
+    text = std::move(typed);
+    key = keyboard_char(key);
+    const bool fits = c.max_length == 0 || len(text) <= static_cast<std::size_t>(c.max_length);
+    if (!c.locked && fits && text != c.text) {
+      c.text = std::move(text);
+      fire(c, Event::Change);
+    }
+    settle();
+    if (focused() == &c && !ended_ && !key.empty()) {
+      key_ = std::move(key);
+      fire(c, Event::KeyUp);
+    }
+  });
+}
+
 // ---- Used by the rules ------------------------------------------------------------
 
 void Workstation::set(Control& c, std::string text) {

@@ -158,6 +158,12 @@ class Workstation {
   void focus_now(Control& c);
   void press_enter();
   void key_up(Control& c, std::string key);
+  // One key typed into a box as an editing widget sees it: text is what the box
+  // holds after the key (a character put in at the cursor, a selection replaced,
+  // one taken out), key the character typed ("" for a deletion). The box takes
+  // the focus first; a locked box, or a text past its max length, keeps its text.
+  // The change handler runs, then the key-up handler, as for one typed character.
+  void key_edit(Control& c, std::string text, std::string key);
   // The key of the key event being handled: one character, or "\r" for Enter.
   const std::string& key() const { return key_; }
 
