@@ -141,8 +141,19 @@ void append_scdata(Workstation& ws) {
   scdata_lines(ws, journal);
   if (journal.empty()) return;
   Database& db = ws.FrmDisplayKashf.KASHF.rs.database();
-  announce(ws.file_seam, FileCall::Commit, db.file());
-  const std::int64_t intent = record_provisional(db, ws.bank_root(), journal);
+  db.exec("BEGIN IMMEDIATE");
+  std::int64_t intent = 0;
+  try {
+    intent = record_provisional(db, ws.bank_root(), journal);
+    announce(ws.file_seam, FileCall::Commit, db.file());
+    db.exec("COMMIT");
+  } catch (...) {
+    try {
+      db.exec("ROLLBACK");
+    } catch (const std::exception&) {
+    }
+    throw;
+  }
   try {
     journal.write();
   } catch (...) {
