@@ -126,6 +126,10 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+  // The clock hour at which the entry screen filled its date boxes (-1: not yet).
+  // The step that moves a report made before midnight to the next day reads
+  // this hour, so a report opened at 23:58 and coded at 00:02 keeps its date.
+  int date_boxes_hour = -1;
 
   // Barometer and psychrometry: the results of DAMA_FASHAR and ModuleINVERS, kept
   // from call to call, and the relative humidity last typed in Text31.
