@@ -25,8 +25,8 @@ namespace fs = std::filesystem;
 constexpr const char* kNotSaved =
     "\nThe report was not saved and nothing of it was written: make room or mend the folder, then save again.";
 constexpr const char* kSavedNotWritten =
-    "\nThe report was saved, but its files could not be put back; they are written again at the next save "
-    "or start: ";
+    "\nThe report was saved, but not all of its files could be written; they are written at the next save "
+    "or start.";
 
 std::string two(long n) { return pad_left(std::to_string(n), 2); }
 long number(const std::string& text) { return int_val(text); }
@@ -141,8 +141,19 @@ void append_scdata(Workstation& ws) {
   scdata_lines(ws, journal);
   if (journal.empty()) return;
   Database& db = ws.FrmDisplayKashf.KASHF.rs.database();
-  announce(ws.file_seam, FileCall::Commit, db.file());
-  const std::int64_t intent = record_provisional(db, ws.bank_root(), journal);
+  db.exec("BEGIN IMMEDIATE");
+  std::int64_t intent = 0;
+  try {
+    intent = record_provisional(db, ws.bank_root(), journal);
+    announce(ws.file_seam, FileCall::Commit, db.file());
+    db.exec("COMMIT");
+  } catch (...) {
+    try {
+      db.exec("ROLLBACK");
+    } catch (const std::exception&) {
+    }
+    throw;
+  }
   try {
     journal.write();
   } catch (...) {
@@ -293,7 +304,8 @@ std::int64_t commit_row(Workstation& ws, const SaveJournal& journal) {
 // save, the row is taken out again and stays open, and the observer is told.
 // When the files cannot be put back the row stays saved and its intent is
 // finished before the next save, or at the next start.
-void take_back(Workstation& ws, const SaveJournal& journal, std::int64_t intent, const std::exception& cause) {
+// Returns false when the row stays saved.
+bool take_back(Workstation& ws, const SaveJournal& journal, std::int64_t intent, const std::exception& cause) {
   Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
   Database& db = rs.database();
   try {
@@ -306,12 +318,14 @@ void take_back(Workstation& ws, const SaveJournal& journal, std::int64_t intent,
     db.exec("COMMIT");
     rs.add_new();
     ws.message(std::string(cause.what()) + kNotSaved);
+    return true;
   } catch (const std::exception& e) {
     try {
       db.exec("ROLLBACK");
     } catch (const std::exception&) {
     }
-    ws.message(std::string(cause.what()) + kSavedNotWritten + e.what());
+    ws.message(std::string(cause.what()) + kSavedNotWritten + "\n" + e.what());
+    return false;
   }
 }
 
@@ -377,15 +391,25 @@ void save_click(Workstation& ws) {
     // The row and the intent commit together, and reach the disk with all that
     // was written before them in the save's one flush.
     const std::int64_t intent = commit_row(ws, journal);
+    bool written = true;
     try {
       flush_files(root, seam);
       journal.write();
     } catch (const std::exception& e) {
-      take_back(ws, journal, intent, e);
-      return;
+      if (take_back(ws, journal, intent, e)) return;
+      written = false;  // told; the row stands saved and its files wait
     }
-    journal.put_in_place();
-    mark_applied(db, intent);
+    // Past the point of no return the row stands saved: a rename that fails is
+    // told, and made again before the next save or at the next start.
+    std::string unfinished;
+    if (written) {
+      try {
+        journal.put_in_place();
+        mark_applied(db, intent);
+      } catch (const std::exception& e) {
+        unfinished = e.what();
+      }
+    }
 
     b.KASHF.move_last(ws);
     set_browsing(ws, true);
@@ -393,6 +417,7 @@ void save_click(Workstation& ws) {
     open_copy_out(ws);
     keep_past_row(ws);
     ws.FrmMain.PAST.refresh(ws);
+    if (!unfinished.empty()) ws.message(unfinished + kSavedNotWritten);
   } catch (const UsageError&) {
     throw;
   } catch (const std::exception& e) {

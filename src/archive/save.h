@@ -3,8 +3,10 @@
 // forward, appends the SCDATA lines, copies every value into the browser's row
 // and pads it to the stored widths, then closes the entry screen. Saving commits
 // the row, writes the bulletin and the KASHF text record and opens the
-// copy-out dialog. Each runs under one trap: what was written stays written, and
-// the steps after a failure are not done.
+// copy-out dialog. Each runs under one trap. The files of both go through the
+// save journal: a write error puts every file back as it was before the step
+// and tells it (the entry screen, or the open row, stays for another try); a
+// crash is finished or taken back at the next start.
 #pragma once
 
 #include <string>

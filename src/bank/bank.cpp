@@ -229,19 +229,19 @@ void make_table(Database& db, std::string_view table, std::string_view prog) {
   }
 }
 
-struct DbSpec {
+struct NeededDb {
   std::string path;  // below the drive
   std::vector<std::string_view> tables;
 };
 
-std::vector<DbSpec> control_databases(std::string_view prog) {
+std::vector<NeededDb> control_databases(std::string_view prog) {
   return {{select_ostan_path(prog), {"NameOstan"}},
           {back_color_path(prog), {"N_BackColor"}},
           {id_path(prog), {"ID"}},
           {past_path(prog), {"Past"}}};
 }
 
-std::vector<DbSpec> station_databases(std::string_view station_db, std::string_view kashf) {
+std::vector<NeededDb> station_databases(std::string_view station_db, std::string_view kashf) {
   return {{std::string(station_db), {"Station"}}, {std::string(kashf), {"KASHF", "COOD"}}, {rain_of(kashf), {}}};
 }
 
@@ -278,7 +278,7 @@ void station_tree(const fs::path& root, std::string_view prog, std::string_view 
   const std::string folder = std::string(prog) + "\\BANK\\" + std::string(code);
   for (const char* sub : {"\\ACCESS", "\\TEXT\\SCDATA", "\\TEXT\\KASHF"})
     make_folders(resolve_bank_path(root, folder + sub), seam);
-  for (const DbSpec& db : station_databases("", kashf_of(folder))) {
+  for (const NeededDb& db : station_databases("", kashf_of(folder))) {
     if (db.path.empty()) continue;
     const fs::path file = resolve_bank_path(root, db.path);
     std::error_code ec;
@@ -301,7 +301,7 @@ void create_bank(const fs::path& root, FileSeam* seam) {
   fs::remove_all(staging, ec);
   try {
     make_folders(staging / kProg / "BANK" / "ACCESS", seam);
-    for (const DbSpec& db : control_databases(kProg))
+    for (const NeededDb& db : control_databases(kProg))
       make_database(resolve_bank_path(staging, db.path), db.tables, kProg, seam);
     make_database(resolve_bank_path(staging, station_db_of(kProg)), {"Station"}, kProg, seam);
     station_tree(staging, kProg, "OIII", seam);
@@ -334,11 +334,11 @@ BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_vi
   BankCheck out;
   std::error_code ec;
   fs::remove_all(bank_staging(root), ec);  // a first start cut off: begun again below
-  auto look = [&](const DbSpec& spec) {
-    const fs::path file = resolve_bank_path(root, spec.path);
+  auto look = [&](const NeededDb& need) {
+    const fs::path file = resolve_bank_path(root, need.path);
     if (!fs::exists(fs::symlink_status(file, ec))) {
       if (!fs::is_directory(file.parent_path(), ec)) make_folders(file.parent_path(), nullptr);
-      make_database(file, spec.tables, prog, nullptr);
+      make_database(file, need.tables, prog, nullptr);
       out.made.push_back(file.string());
       return true;
     }
@@ -353,7 +353,7 @@ BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_vi
       return false;
     }
     Database db(file, Database::Mode::ReadWrite);
-    for (std::string_view t : spec.tables) {
+    for (std::string_view t : need.tables) {
       if (db.has_table(t)) continue;
       db.exec("BEGIN");
       make_table(db, t, prog);
@@ -364,12 +364,12 @@ BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_vi
   };
   std::string kashf = kashf_of(std::string(prog) + "\\BANK\\OIII"), station_db = station_db_of(prog);
   bool paths_known = true;
-  for (const DbSpec& spec : control_databases(prog)) {
-    const bool whole = look(spec);
-    if (spec.tables.front() != "ID") continue;
+  for (const NeededDb& need : control_databases(prog)) {
+    const bool whole = look(need);
+    if (need.tables.front() != "ID") continue;
     paths_known = whole;
     if (!whole) continue;
-    Database db(resolve_bank_path(root, spec.path), Database::Mode::ReadOnly);
+    Database db(resolve_bank_path(root, need.path), Database::Mode::ReadOnly);
     auto row = db.prepare("SELECT TXTPathNameBank1, TXTPathNameBank2 FROM ID LIMIT 1");
     if (row.step()) {
       if (!trim(row.text(0)).empty()) kashf = trim(row.text(0));
@@ -377,7 +377,7 @@ BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_vi
     }
   }
   if (!paths_known) return out;
-  for (const DbSpec& spec : station_databases(station_db, kashf)) look(spec);
+  for (const NeededDb& need : station_databases(station_db, kashf)) look(need);
   // The text folders of the station beside its ACCESS folder.
   const fs::path access = resolve_bank_path(root, kashf).parent_path();
   for (const char* sub : {"SCDATA", "KASHF"}) {

@@ -105,18 +105,20 @@ void rename_into_place(FileSeam* seam, const fs::path& file) {
 }
 
 // Puts one append back: the file cut to its length before, or removed when the
-// intent made it. A file already shorter is left as it is.
-void undo_append(FileSeam* seam, const SaveJournal::Op& op) {
+// intent made it. A file already shorter is left as it is. True when the file
+// was changed.
+bool undo_append(FileSeam* seam, const SaveJournal::Op& op) {
   const std::int64_t now = length_of(op.file);
-  if (now < 0) return;
+  if (now < 0) return false;
   if (op.before < 0) {
     remove_file(seam, op.file);
-    return;
+    return true;
   }
-  if (now <= op.before) return;
+  if (now <= op.before) return false;
   Fd fd(seam, op.file, O_WRONLY);
   cut(seam, fd, op.file, op.before);
   fd.close();
+  return true;
 }
 
 // True when the file holds exactly these bytes at this offset.
@@ -142,9 +144,9 @@ bool holds_exactly(const fs::path& file, std::string_view bytes) {
 // cut back to its length before and the bytes written. A file found shorter
 // than that (something else cut it) gets the bytes at its end: nothing is
 // invented to fill the gap.
-void redo_append(FileSeam* seam, const SaveJournal::Op& op) {
+bool redo_append(FileSeam* seam, const SaveJournal::Op& op) {
   const std::int64_t before = std::max<std::int64_t>(op.before, 0);
-  if (stands_at(op.file, before, op.bytes)) return;
+  if (stands_at(op.file, before, op.bytes)) return false;
   Fd fd(seam, op.file, O_WRONLY | O_CREAT);
   const std::int64_t now = length_of(op.file);
   if (now > before) cut(seam, fd, op.file, before);
@@ -152,15 +154,18 @@ void redo_append(FileSeam* seam, const SaveJournal::Op& op) {
   if (::lseek(fd.get(), 0, SEEK_END) < 0) file_error(op.file, errno);
   write_all(nullptr, fd, op.file, op.bytes);
   fd.close();
+  return true;
 }
 
-void redo_replace(FileSeam* seam, const SaveJournal::Op& op) {
+bool redo_replace(FileSeam* seam, const SaveJournal::Op& op) {
   if (holds_exactly(op.file, op.bytes)) {
+    const bool stray = length_of(temporary_of(op.file)) >= 0;
     remove_file(seam, temporary_of(op.file));
-    return;
+    return stray;
   }
   write_temporary(seam, op.file, op.bytes);
   rename_into_place(seam, op.file);
+  return true;
 }
 
 }  // namespace
@@ -313,31 +318,40 @@ bool has_unapplied(Database& db) {
   return st.step();
 }
 
-Recovery finish_pending(Database& db, const fs::path& root, FileSeam* seam, bool forget) {
+Recovery finish_pending(Database& db, const fs::path& root, FileSeam* seam, bool at_start) {
   Recovery r;
   if (!db.has_table("SaveJournal")) return r;
-  const auto committed = read_ops(db, root, forget ? "WHERE committed = 1" : "WHERE committed = 1 AND applied = 0");
-  std::int64_t last = 0;
+  const auto committed = read_ops(db, root, at_start ? "WHERE committed = 1" : "WHERE committed = 1 AND applied = 0");
+  std::int64_t counted = 0;
   for (const StoredOp& s : committed) {
-    if (s.op.kind == SaveJournal::Kind::Append) redo_append(seam, s.op);
-    else redo_replace(seam, s.op);
-    if (s.intent != last) ++r.redone;
-    last = s.intent;
+    const bool wrote = s.op.kind == SaveJournal::Kind::Append ? redo_append(seam, s.op) : redo_replace(seam, s.op);
+    if (wrote && s.intent != counted) {
+      ++r.redone;
+      counted = s.intent;
+    }
   }
-  if (!forget) {
-    db.exec("UPDATE SaveJournal SET applied = 1 WHERE committed = 1");
-    return r;
-  }
+  // Finished, and kept until the next save's flush has put their files on the
+  // disk, as a save's own intent is.
+  db.exec("UPDATE SaveJournal SET applied = 1 WHERE committed = 1");
+  if (!at_start) return r;
   const auto provisional = read_ops(db, root, "WHERE committed = 0");
-  last = 0;
+  counted = 0;
   for (auto it = provisional.rbegin(); it != provisional.rend(); ++it) {
-    if (it->op.kind == SaveJournal::Kind::Append) undo_append(seam, it->op);
-    else remove_file(seam, temporary_of(it->op.file));
-    if (it->intent != last) ++r.undone;
-    last = it->intent;
+    bool wrote = false;
+    if (it->op.kind == SaveJournal::Kind::Append) {
+      wrote = undo_append(seam, it->op);
+    } else {
+      wrote = length_of(temporary_of(it->op.file)) >= 0;
+      remove_file(seam, temporary_of(it->op.file));
+    }
+    if (wrote && it->intent != counted) {
+      ++r.undone;
+      counted = it->intent;
+    }
   }
-  if (r.redone + r.undone > 0 || !committed.empty()) flush_files(root, seam);
-  db.exec("DELETE FROM SaveJournal");
+  // What was put back reaches the disk before its record goes.
+  if (r.redone + r.undone > 0) flush_files(root, seam);
+  db.exec("DELETE FROM SaveJournal WHERE committed = 0");
   return r;
 }
 

@@ -98,16 +98,17 @@ void withdraw_intent(Database& db, std::int64_t intent);
 // True when the table holds a committed intent whose files were never all written.
 bool has_unapplied(Database& db);
 
-// Finishes what a crash or a failed save left in the table, as described above:
-// committed intents made again in order, provisional ones undone in reverse. With
-// forget, the bank is flushed and the table emptied afterwards (at start);
-// without it only unapplied intents are made and marked applied (before a save).
-// Returns the number of intents finished.
+// Finishes what a crash or a failed save left in the table, as described above.
+// At start every committed intent is checked and made again where its bytes do
+// not stand, and every provisional one is undone and forgotten; before a save
+// only the committed intents not yet applied are made. Committed intents stay
+// in the table, marked applied, until a later save's flush covers their files.
+// Counts the intents whose files had to be written or put back.
 struct Recovery {
   int redone = 0;
   int undone = 0;
 };
-Recovery finish_pending(Database& db, const std::filesystem::path& root, FileSeam* seam, bool forget);
+Recovery finish_pending(Database& db, const std::filesystem::path& root, FileSeam* seam, bool at_start);
 
 // ---- File calls ----------------------------------------------------------------
 

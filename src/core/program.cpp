@@ -245,7 +245,13 @@ void start_program(Workstation& ws) {
     return;
   }
   if (bank_is_new(root)) create_bank(root, ws.file_seam);
-  else tell_bank_check(ws, check_bank(root, prog(ws), stamp(ws)));
+  else {
+    try {
+      tell_bank_check(ws, check_bank(root, prog(ws), stamp(ws)));
+    } catch (const std::exception& e) {
+      ws.error(e.what());  // told; the program goes on with what it has
+    }
+  }
   ws.hold_lock(std::move(lock));
   ws.show(ws.frmAbout);
   ws.click(ws.frmAbout.cmdOK);

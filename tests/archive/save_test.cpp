@@ -195,6 +195,9 @@ TEST(Save, AFaultAtSaveTakesTheSaveBackAndASecondSaveGoesThrough) {
   EXPECT_TRUE(fs::exists(s.root() / "VARDOK" / "SYNOP.DAT"));
   for (const auto& [name, lines] : lines_in(kashf_dir(s))) EXPECT_EQ(lines, 1) << name;
   EXPECT_EQ(lines_in(scdata_dir(s)), confirmed);
+  // A start after whole saves finds nothing to finish, and says nothing.
+  EXPECT_EQ(s.restart().take_messages(), std::vector<std::string>{});
+  EXPECT_EQ(lines_in(scdata_dir(s)), confirmed);
 }
 
 // A station's first January: the 06 UTC save finds no December files to close
