@@ -1,8 +1,10 @@
 #include "archive/save.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "archive/browser.h"
+#include "archive/bufr_files.h"
 #include "archive/bulletins.h"
 #include "archive/text_archive.h"
 #include "core/key_text.h"
@@ -216,6 +218,22 @@ void month_end(Workstation& ws, const std::string& prefix_dir, const std::string
   ws.set(b.TXTmonth, rewrite_with_line_end(bank_file(ws, name)));
 }
 
+// The BUFR message goes with the SYNOP bulletin: where SYNOP.DAT is written, so
+// is SYNOP.BUFR. A message that cannot be made or written is told, and the save
+// goes on: the report's record must not be lost over its BUFR copy.
+void save_bufr(Workstation& ws, const std::vector<Bulletin>& bulletins) {
+  Label& shown = ws.FrmDisplayKashf.LabBUFR;
+  ws.set(shown, "No BUFR message");
+  const bool synop = std::any_of(bulletins.begin(), bulletins.end(), [](const Bulletin& x) { return x.file == "SYNOP.DAT"; });
+  if (!synop || trim(ws.FrmDisplayKashf.txtSYN.text).empty()) return;
+  try {
+    write_synop_bufr(ws);
+    ws.set(shown, "BUFR message written");
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+  }
+}
+
 std::string browser_value(Workstation& ws, std::string_view box) {
   Control* c = ws.FrmDisplayKashf.find(box);
   return c != nullptr ? c->text : std::string();
@@ -267,7 +285,9 @@ void save_click(Workstation& ws) {
     b.KASHF.update();
     b.KASHF.move_last(ws);
     set_browsing(ws, true);
-    write_bulletins(ws, bulletins_for(b.TXTSEL.text, bulletin_fields(ws)));
+    const auto bulletins = bulletins_for(b.TXTSEL.text, bulletin_fields(ws));
+    write_bulletins(ws, bulletins);
+    save_bufr(ws, bulletins);
     month_end(ws, "\\TEXT\\SCDATA\\", "S");
     ws.set(b.txtkashf, kashf_record([&](std::string_view box) { return browser_value(ws, box); }));
     append_line(bank_file(ws, b.TXTFILENAMEKASHFM.text), b.txtkashf.text);

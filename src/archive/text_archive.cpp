@@ -178,6 +178,10 @@ void write_lines(const fs::path& file, const std::vector<std::string>& lines) {
   write_file(file, bytes, O_TRUNC);
 }
 
+void write_bytes(const fs::path& file, std::string_view bytes, bool append) {
+  write_file(file, std::string(bytes), append ? O_APPEND : O_TRUNC);
+}
+
 void flush_bank(const fs::path& root) {
   const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (fd < 0) fail(root, errno);

@@ -76,6 +76,8 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
 void append_line(const std::filesystem::path& file, std::string_view line);
 // Writes the file anew with the lines, in one write.
 void write_lines(const std::filesystem::path& file, const std::vector<std::string>& lines);
+// Writes bytes as they are: the file anew, or added at its end.
+void write_bytes(const std::filesystem::path& file, std::string_view bytes, bool append);
 // Everything the program has written under the bank reaches the disk: the text
 // files are written without waiting, and a save flushes them all at once, with
 // one flush of the bank's file system rather than one per file and line.

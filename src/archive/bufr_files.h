@@ -1,0 +1,29 @@
+// The BUFR message beside each SYNOP bulletin: SYNOP.BUFR in the program's
+// folder holds the latest message and is written anew with SYNOP.DAT; the day's
+// file under the station's text tree (\TEXT\BUFR\B<nnn><yy><mm><dd>.BUFR) gains
+// each message of that day, one after the other.
+#pragma once
+
+#include <string>
+
+#include "coders/bufr.h"
+
+namespace obsdesk {
+
+class Workstation;
+
+inline constexpr const char* kSynopBufr = "SYNOP.BUFR";
+
+// The report of the row the browser shows: the station from the profile, the
+// time from the date boxes and the hour, the values from its SYNOP text and its
+// humidity.
+BufrReport bufr_report(Workstation& ws);
+
+// The day's file of the report's key text, as a system name below the bank root.
+std::string bufr_day_file(Workstation& ws);
+
+// Writes SYNOP.BUFR and adds the message to the day's file. Throws on a write
+// that fails; the day's folder is made when it is missing.
+void write_synop_bufr(Workstation& ws);
+
+}  // namespace obsdesk
