@@ -139,13 +139,15 @@ class Writer {
   Writer(codes_handle* h, const Layout& layout) : h_(h), cursor_(layout) {}
   // Each call moves the cursor to the element, so that values are written in the
   // template's order; a missing value is skipped and stays missing.
+  // The handle is used again for the next message: a missing value is written
+  // as missing, so nothing of the message before stays behind.
   void put(std::string_view name, std::optional<double> v) {
     const std::string key = cursor_.next(name);
-    if (v) check(codes_set_double(h_, key.c_str(), *v), key);
+    check(v ? codes_set_double(h_, key.c_str(), *v) : codes_set_missing(h_, key.c_str()), key);
   }
   void put(std::string_view name, std::optional<long> v) {
     const std::string key = cursor_.next(name);
-    if (v) check(codes_set_long(h_, key.c_str(), *v), key);
+    check(v ? codes_set_long(h_, key.c_str(), *v) : codes_set_missing(h_, key.c_str()), key);
   }
   void put(std::string_view name, std::optional<int> v) {
     put(name, v ? std::optional<long>(*v) : std::nullopt);
@@ -153,7 +155,10 @@ class Writer {
   void skip_past(std::string_view name) { cursor_.next(name); }
   void put_text(std::string_view name, const std::string& text) {
     const std::string key = cursor_.next(name);
-    if (text.empty()) return;
+    if (text.empty()) {
+      check(codes_set_missing(h_, key.c_str()), key);
+      return;
+    }
     size_t n = text.size();
     check(codes_set_string(h_, key.c_str(), text.c_str(), &n), key);
   }
@@ -452,25 +457,54 @@ std::string precipitation(std::optional<double> mm) {
 
 }  // namespace
 
-std::string encode_bufr(const BufrReport& report) {
+namespace {
+
+// A handle with the template laid out for this many cloud layers. Laying out
+// the template costs a hundred times more than filling it, so each thread keeps
+// one handle per layer count and fills it again for every message.
+codes_handle* template_handle(std::size_t layers) {
+  thread_local std::map<std::size_t, Handle> handles;
+  auto it = handles.find(layers);
+  if (it != handles.end()) return it->second.get();
   Handle h(codes_bufr_handle_new_from_samples(nullptr, "BUFR4"), codes_handle_delete);
   if (!h) throw BufrError("BUFR: ecCodes has no BUFR4 sample");
   codes_handle* c = h.get();
-  const long factors[] = {static_cast<long>(report.values.layers.size()), 0};
+  const long factors[] = {static_cast<long>(layers), 0};
   check(codes_set_long_array(c, "inputDelayedDescriptorReplicationFactor", factors, 2), "replication");
   check(codes_set_long(c, "masterTablesVersionNumber", kMasterTable), "master table");
   check(codes_set_long(c, "dataCategory", kSurfaceLand), "data category");
-  check(codes_set_long(c, "internationalDataSubCategory", sub_category(report.hour)), "sub-category");
-  check(codes_set_long(c, "typicalYear", report.year), "typical date");
-  check(codes_set_long(c, "typicalMonth", report.month), "typical date");
-  check(codes_set_long(c, "typicalDay", report.day), "typical date");
-  check(codes_set_long(c, "typicalHour", report.hour), "typical date");
-  check(codes_set_long(c, "typicalMinute", report.minute), "typical date");
   check(codes_set_long(c, "numberOfSubsets", 1), "subsets");
   check(codes_set_long(c, "observedData", 1), "observed data");
   check(codes_set_long(c, "compressedData", 0), "compression");
   const long seq[] = {301150, 307080};
   check(codes_set_long_array(c, "unexpandedDescriptors", seq, 2), "template");
+  return handles.emplace(layers, std::move(h)).first->second.get();
+}
+
+// The sub-category and the typical time of section 1, written into the packed
+// message: setting them through ecCodes on a handle that holds data costs a
+// hundred times more than the whole of the data, since every element is told of
+// the change. Section 1 of edition 4 starts after the 8 octets of section 0; its
+// octet 12 is the international sub-category, octets 16 to 22 the year (two
+// octets), month, day, hour, minute and second.
+void set_typical_time(std::string& message, const BufrReport& r) {
+  constexpr std::size_t kSection1 = 8;
+  if (message.size() < kSection1 + 22) throw BufrError("BUFR: message too short for section 1");
+  const auto octet = [&](std::size_t n, long v) { message[kSection1 + n - 1] = static_cast<char>(v & 0xff); };
+  octet(12, sub_category(r.hour));
+  octet(16, r.year >> 8);
+  octet(17, r.year);
+  octet(18, r.month);
+  octet(19, r.day);
+  octet(20, r.hour);
+  octet(21, r.minute);
+  octet(22, 0);
+}
+
+}  // namespace
+
+std::string encode_bufr(const BufrReport& report) {
+  codes_handle* c = template_handle(report.values.layers.size());
   const Layout layout = layout_for(report.values.layers.size());
   Writer w(c, layout);
   put_values(w, report);
@@ -478,7 +512,9 @@ std::string encode_bufr(const BufrReport& report) {
   const void* message = nullptr;
   size_t size = 0;
   check(codes_get_message(c, &message, &size), "message");
-  return std::string(static_cast<const char*>(message), size);
+  std::string out(static_cast<const char*>(message), size);
+  set_typical_time(out, report);
+  return out;
 }
 
 std::vector<BufrReport> decode_bufr(std::string_view bytes) {

@@ -147,6 +147,11 @@ TEST(Bufr, ElementsSitWhereTheCentreLooksForThem) {
   EXPECT_EQ(real("windDirection"), 240);
   EXPECT_EQ(real("windSpeed"), 4);
   EXPECT_EQ(real("instrumentationForWindMeasurement"), 8);
+  // Section 1 tells the time of the data and a main synoptic hour.
+  EXPECT_EQ(real("typicalYear"), 2025);
+  EXPECT_EQ(real("typicalDay"), 31);
+  EXPECT_EQ(real("typicalHour"), 12);
+  EXPECT_EQ(real("internationalDataSubCategory"), 2);
   char wigos[32] = {};
   size_t n = sizeof wigos;
   ASSERT_EQ(codes_get_string(h.get(), "wigosLocalIdentifierCharacter", wigos, &n), 0);
