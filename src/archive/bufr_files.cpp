@@ -9,6 +9,7 @@
 #include "archive/frm_bufr.h"
 #include "archive/text_archive.h"
 #include "bank/bank.h"
+#include "bank/journal.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
 
@@ -22,10 +23,6 @@ FrmBUFR::FrmBUFR() : Screen("FrmBUFR") {
 }
 
 namespace {
-
-// Every byte a save writes for BUFR goes through here: the whole file anew, or
-// one message added at its end.
-void store(const fs::path& file, const std::string& bytes, bool append) { write_bytes(file, bytes, append); }
 
 // Degrees and minutes of the profile as degrees. The profile keeps no
 // hemisphere: the stations lie north of the equator and east of Greenwich.
@@ -97,15 +94,15 @@ std::string bufr_day_file(Workstation& ws) {
   return station_folder(ws) + "\\TEXT\\BUFR\\B" + station_nnn(ws.FrmOption.NUMCOD.text) + left(key, 6) + ".BUFR";
 }
 
-void write_synop_bufr(Workstation& ws) {
+void add_synop_bufr(Workstation& ws, SaveJournal& journal) {
   const std::string message = encode_bufr(bufr_report(ws));
-  store(bank_file(ws, latest_name(ws)), message, false);
+  journal.replace(bank_file(ws, latest_name(ws)), message);
   const fs::path day = bank_file(ws, bufr_day_file(ws));
   std::error_code ec;
   // Banks made before the BUFR files have no folder for them: it is made here,
   // one level only, so that a missing station tree still fails by name.
   if (!fs::is_directory(day.parent_path(), ec)) fs::create_directory(day.parent_path());
-  store(day, message, true);
+  journal.append(day, message);
 }
 
 void wire_bufr(Workstation& ws) {

@@ -11,6 +11,7 @@
 namespace obsdesk {
 
 class Workstation;
+class SaveJournal;
 
 inline constexpr const char* kSynopBufr = "SYNOP.BUFR";
 
@@ -22,8 +23,9 @@ BufrReport bufr_report(Workstation& ws);
 // The day's file of the report's key text, as a system name below the bank root.
 std::string bufr_day_file(Workstation& ws);
 
-// Writes SYNOP.BUFR and adds the message to the day's file. Throws on a write
-// that fails; the day's folder is made when it is missing.
-void write_synop_bufr(Workstation& ws);
+// Lists in the save's journal SYNOP.BUFR written anew and the message added to
+// the day's file; the day's folder is made when it is missing. Throws when the
+// message cannot be made.
+void add_synop_bufr(Workstation& ws, SaveJournal& journal);
 
 }  // namespace obsdesk
