@@ -77,6 +77,20 @@ DayRun run_day(const std::string& scenario) {
     EXPECT_EQ(decode_bufr(whole).size(), static_cast<std::size_t>(expected_per_file[day])) << day;
     EXPECT_EQ(whole.substr(whole.size() - std::min(whole.size(), after.size())), after) << day;
   }
+  // The observer reads the latest message back in words from the browser.
+  Workstation& ws = *runner.workstation();
+  if (run.synops > 0) {
+    ws.show(ws.FrmDisplayKashf);
+    ws.click(ws.FrmDisplayKashf.cmdBUFR);
+    EXPECT_TRUE(ws.FrmBUFR.visible) << scenario;
+    EXPECT_NE(ws.FrmBUFR.Text1.text.find("Station 40754, WIGOS 0-20000-0-40754"), std::string::npos)
+        << ws.FrmBUFR.Text1.text;
+    // The copy-out dialog hands over where the message lies.
+    ws.show(ws.FrmPol);
+    ws.FrmPol.Command6.enabled = true;
+    ws.click(ws.FrmPol.Command6);
+    EXPECT_EQ(ws.clipboard().text(), resolve_bank_path(ws.bank_root(), trim(ws.FrmMain.LabName.text) + "\\SYNOP.BUFR").string());
+  }
   return run;
 }
 
