@@ -73,6 +73,7 @@ void open_copy_out(Workstation& ws) {
   p.Command2.enabled = kind == kMetar || kind == kMetar30 || kind == kSynMet;
   p.Command3.enabled = kind == kSynop || kind == kSynMet;
   p.Command4.enabled = kind == kSpeci;
+  p.Command6.enabled = p.Command3.enabled;
   ws.show(p);
 }
 

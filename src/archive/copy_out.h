@@ -14,6 +14,7 @@ struct FrmPol : Screen {
   // programs as the item TXTSOUTH of the link topic "SOUTH|MYTOPIC".
   TextBox Text{*this, "Text"};
   Button Command1{*this, "Command1", "Back"};
+  Button Command6{*this, "Command6", "Copy BUFR path"};  // where SYNOP.BUFR lies
   Button Command2{*this, "Command2", "Copy Metar"};
   Button Command3{*this, "Command3", "Copy Synop"};
   Button Command4{*this, "Command4", "Copy SPECI"};

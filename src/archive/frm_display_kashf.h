@@ -133,6 +133,8 @@ struct FrmDisplayKashf : Screen {
   Button save{*this, "save", "ذخيره"};
   Button Command1{*this, "Command1", "حذف رکورد"};
   Button Command12{*this, "Command12", "Minimize"};
+  Button cmdBUFR{*this, "cmdBUFR", "BUFR"};  // the latest BUFR message in words
+  Label LabBUFR{*this, "LabBUFR"};  // whether the save wrote a BUFR message
   Image Image11{*this, "Image11"};  // back to the start screen
 
   // Frames and labels that follow the row.

@@ -1,11 +1,13 @@
 #include "archive/save.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 
 #include "archive/browser.h"
+#include "archive/bufr_files.h"
 #include "archive/bulletins.h"
 #include "archive/text_archive.h"
 #include "bank/journal.h"
@@ -273,6 +275,23 @@ void month_end(Workstation& ws, SaveJournal& journal, const std::string& prefix_
   ws.set(b.TXTmonth, from_cp1256(whole.str()));
 }
 
+// The BUFR message goes with the SYNOP bulletin: where SYNOP.DAT is written, so
+// is SYNOP.BUFR, in the same journal. A message that cannot be made is told and
+// the save goes on without it: the report must not be lost over its BUFR copy.
+// True when the message is listed.
+bool add_bufr(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
+  const bool synop =
+      std::any_of(bulletins.begin(), bulletins.end(), [](const Bulletin& x) { return x.file == "SYNOP.DAT"; });
+  if (!synop || trim(ws.FrmDisplayKashf.txtSYN.text).empty()) return false;
+  try {
+    add_synop_bufr(ws, journal);
+    return true;
+  } catch (const std::exception& e) {
+    ws.message(e.what());
+    return false;
+  }
+}
+
 std::string browser_value(Workstation& ws, std::string_view box) {
   Control* c = ws.FrmDisplayKashf.find(box);
   return c != nullptr ? c->text : std::string();
@@ -381,7 +400,10 @@ void save_click(Workstation& ws) {
 
     // Everything the save writes, listed before anything is written.
     SaveJournal journal(seam);
-    add_bulletins(ws, journal, bulletins_for(b.TXTSEL.text, bulletin_fields(ws)));
+    ws.set(b.LabBUFR, "No BUFR message");
+    const auto bulletins = bulletins_for(b.TXTSEL.text, bulletin_fields(ws));
+    add_bulletins(ws, journal, bulletins);
+    const bool bufr = add_bufr(ws, journal, bulletins);
     month_end(ws, journal, "\\TEXT\\SCDATA\\", "S");
     ws.set(b.txtkashf, kashf_record([&](std::string_view box) { return browser_value(ws, box); }));
     journal.append(bank_file(ws, b.TXTFILENAMEKASHFM.text), line_bytes(b.txtkashf.text));
@@ -410,6 +432,7 @@ void save_click(Workstation& ws) {
         unfinished = e.what();
       }
     }
+    if (bufr && written && unfinished.empty()) ws.set(b.LabBUFR, "BUFR message written");
 
     b.KASHF.move_last(ws);
     set_browsing(ws, true);

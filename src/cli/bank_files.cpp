@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "bank/bank.h"
+#include "coders/bufr.h"
 #include "core/textnum.h"
 
 namespace obsdesk {
@@ -21,10 +22,29 @@ std::string system_name_of(const fs::path& root, const fs::path& file) {
   return name;
 }
 
+// A BUFR file is binary: it is shown as ecCodes reads it back, each message's
+// values in words.
+void print_bufr(const std::string& bytes, std::ostream& out) {
+  try {
+    const auto reports = decode_bufr(bytes);
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+      out << "  message " << i + 1 << "\n";
+      for (const std::string& line : bufr_words(reports[i])) out << "    " << line << "\n";
+    }
+  } catch (const BufrError& e) {
+    out << "  " << e.what() << "\n";
+  }
+}
+
 void print_file(const fs::path& root, const fs::path& file, std::ostream& out) {
   std::ifstream in(file, std::ios::binary);
   std::ostringstream bytes;
   bytes << in.rdbuf();
+  if (upper(file.extension().string()) == ".BUFR") {
+    out << "== " << system_name_of(root, file) << " (" << bytes.str().size() << " bytes)\n";
+    print_bufr(bytes.str(), out);
+    return;
+  }
   const std::string text = from_cp1256(bytes.str());
   out << "== " << system_name_of(root, file) << " (" << bytes.str().size() << " bytes)\n";
   std::string line;

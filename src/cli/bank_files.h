@@ -1,6 +1,7 @@
 // The runner's view of the files the program wrote under the bank root: each
 // file by its name below the root, then its lines read back from the code page,
-// with every CR and LF shown, so that a golden output holds the bytes.
+// with every CR and LF shown, so that a golden output holds the bytes. A BUFR
+// file shows each of its messages as ecCodes reads it back.
 #pragma once
 
 #include <filesystem>

@@ -35,6 +35,7 @@ void wire_pickers(Workstation& ws);
 
 // archive
 void wire_save(Workstation& ws);
+void wire_bufr(Workstation& ws);
 
 // Every topic binds its own rules; this is the one list of them.
 void wire_all(Workstation& ws) {
@@ -70,6 +71,7 @@ void wire_all(Workstation& ws) {
 
   // archive
   wire_save(ws);
+  wire_bufr(ws);
 
 }
 

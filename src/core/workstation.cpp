@@ -72,6 +72,7 @@ void Workstation::register_screens() {
   screens_.push_back(&FrmSelectStation);
   screens_.push_back(&FrmFind);
   screens_.push_back(&FrmPol);
+  screens_.push_back(&FrmBUFR);
   screens_.push_back(&FrmWP);
 
   // session

@@ -24,6 +24,7 @@
 #include <vector>
 
 #include "archive/copy_out.h"
+#include "archive/frm_bufr.h"
 #include "archive/frm_display_kashf.h"
 #include "archive/past_hours.h"
 #include "archive/search.h"
@@ -81,6 +82,7 @@ class Workstation {
   obsdesk::FrmSelectStation FrmSelectStation;
   obsdesk::FrmFind FrmFind;
   obsdesk::FrmPol FrmPol;
+  obsdesk::FrmBUFR FrmBUFR;  // the BUFR reader
   obsdesk::FrmWP FrmWP;
 
   // Screens of the session and its entry rules.
