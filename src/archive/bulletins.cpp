@@ -1,6 +1,7 @@
 #include "archive/bulletins.h"
 
 #include "archive/text_archive.h"
+#include "bank/journal.h"
 #include "core/record.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
@@ -89,12 +90,11 @@ BulletinFields bulletin_fields(Workstation& ws) {
   return f;
 }
 
-void write_bulletins(Workstation& ws, const std::vector<Bulletin>& bulletins) {
+void add_bulletins(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
   for (const Bulletin& b : bulletins) {
     const std::string name = trim(ws.FrmMain.LabName.text) + "\\" + b.file;
     ws.set(ws.FrmDisplayKashf.txtpathnamebank, name);
-    const auto file = bank_file(ws, name);
-    write_lines(file, b.lines);
+    journal.replace(bank_file(ws, name), lines_bytes(b.lines));
   }
 }
 

@@ -137,6 +137,13 @@ class Workstation {
   double typed_RH = 0;
   std::string GroundCode;    // E or E' of the last state-of-ground button, kept for 4E'sss
 
+  // The file-system seam of the bank's writers: none in the program, a test's
+  // own where it stops or fails the save at a chosen call.
+  FileSeam* file_seam = nullptr;
+  // Bank databases found damaged at start: kept as they are and never opened
+  // for writing in this run.
+  std::vector<std::filesystem::path> damaged_databases;
+
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }
   DateTime now() { return services_.clock.now(); }
