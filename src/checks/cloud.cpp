@@ -215,8 +215,20 @@ void update_summary(Workstation& ws) {
     if (val(h->text) != 0 && val(h->text) < val(k.txtmin.text)) ws.set(k.txtmin, h->text);
 }
 
+// A low height is typed as at most four figures, the metres of a layer up to
+// 2500 m: a longer text or another character would give groups of the wrong
+// length. False when the box was refused.
+bool low_height_typed(Workstation& ws, TextBox& box) {
+  const std::string& t = box.text;
+  bool ok = t.size() <= 4;
+  for (char c : t) ok = ok && c >= '0' && c <= '9';
+  if (!ok) refuse(ws, box, range_of(box).words);
+  return ok;
+}
+
 void Text9_change(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
+  if (!low_height_typed(ws, k.Text9)) return;
   if (k.Text7.text.empty() && !k.Text9.text.empty()) {
     ws.message(kNotHere);
     ws.set(k.Text9, "");
@@ -351,9 +363,13 @@ void wire_cloud(Workstation& ws) {
   k.Text17.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo6); });
   k.Text23.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo9); });
 
-  k.Text7.on(Event::Change, update_summary);
+  k.Text7.on(Event::Change, [](Workstation& w) {
+    if (low_height_typed(w, w.FrmKashf.Text7)) update_summary(w);
+  });
   k.Text9.on(Event::Change, Text9_change);
-  k.Text11.on(Event::Change, update_summary);
+  k.Text11.on(Event::Change, [](Workstation& w) {
+    if (low_height_typed(w, w.FrmKashf.Text11)) update_summary(w);
+  });
   k.Text7.on(Event::Leave, [](Workstation& w) {
     empty_to_zero(w, w.FrmKashf.Text7);
     overcast_above_low(w);

@@ -278,6 +278,7 @@ bool run(Workstation& ws, MetarForm form) {
 // earlier one.
 void forget(Workstation& ws, MetarForm form) {
   FrmKashf& k = ws.FrmKashf;
+  k.ZAKHIREH.enabled = false;  // confirmation waits again for a report that codes
   if (form == MetarForm::Speci) {
     ws.SPECI_coded = 0;
     ws.SpeciLine1.clear();

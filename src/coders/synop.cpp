@@ -320,6 +320,8 @@ bool code_synop(Workstation& ws) {
 }  // namespace
 
 void forget_synop(Workstation& ws) {
+  // Confirmation waits again for a report that codes.
+  ws.FrmKashf.ZAKHIREH.enabled = false;
   ws.SYNOP_coded = 0;
   ws.SynopLine1.clear();
   ws.SynopLine2.clear();

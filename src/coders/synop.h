@@ -28,7 +28,8 @@ bool synop_cloud_check(Workstation& ws);
 // The click of Cmdsynop. A run that does not reach a report which passes the
 // final syntax check leaves the SYNOP uncoded: no text, no lines, no flag.
 void run_synop(Workstation& ws);
-// Forgets the SYNOP of the report: its flag, its two lines and txtSYN.
+// Forgets the SYNOP of the report: its flag, its two lines and txtSYN; the
+// confirmation button closes until a run codes again.
 void forget_synop(Workstation& ws);
 // The click of cmdsynop1218.
 void run_synop1218(Workstation& ws);

@@ -127,6 +127,7 @@ TEST(SynopReport, RefusalsAndFailuresStopTheRunWhereTheyStand) {
     ws.FrmKashf.txtSYN.text = "before";
     ws.SynopLine1 = ws.SynopLine2 = "before";
     ws.SYNOP_coded = 1;
+    ws.FrmKashf.ZAKHIREH.enabled = true;
     ws.FrmKashf.Frame8.visible = true;  // the pan boxes, shown at 06
     ws.click(ws.FrmKashf.Cmdsynop);
     const auto messages = ws.take_messages();
@@ -135,6 +136,7 @@ TEST(SynopReport, RefusalsAndFailuresStopTheRunWhereTheyStand) {
     // A run that stops leaves no report behind, not even the one before it.
     EXPECT_EQ(ws.SYNOP_coded, 0) << c.name;
     EXPECT_EQ(ws.SynopLine1 + ws.SynopLine2, "") << c.name;
+    EXPECT_FALSE(ws.FrmKashf.ZAKHIREH.enabled) << c.name;
     EXPECT_EQ(ws.FrmKashf.txtSYN.text, "") << c.name;
     if (*c.focus) {
       EXPECT_EQ(ws.focused()->full_name(), c.focus) << c.name;
