@@ -5,6 +5,7 @@
 #   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench          build and run the benchmarks
 #   make fuzz           a million observer actions under the sanitizers (FUZZ_EVENTS=N)
+#   make symbols        the contact sheet of the weather symbols, SVG and PNG
 # Each installs the Debian packages it needs when they are missing.
 
 SHELL := /bin/bash
@@ -15,7 +16,7 @@ PACKAGES := g++ cmake ninja-build pkg-config libsqlite3-dev libgtest-dev libgmoc
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo -DOBSDESK_WERROR=ON
 
-.PHONY: deps configure run screenshots test test-sanitize fuzz bench clean
+.PHONY: deps configure run screenshots test test-sanitize fuzz bench symbols clean
 
 deps:
 	@missing=""; \
@@ -76,6 +77,18 @@ fuzz: deps
 bench: configure
 	cmake --build $(BUILD) --target obsdesk_bench -j $(JOBS)
 	$(BUILD)/bench/obsdesk_bench
+
+# Every weather symbol under its code: $(BUILD)/symbols.svg from the core, and
+# $(BUILD)/symbols.png drawn from it by Qt, offscreen.
+SYMBOL_PACKAGES := qt6-base-dev qt6-svg-dev
+symbols: configure
+	cmake --build $(BUILD) --target obsdesk-cli -j $(JOBS)
+	$(BUILD)/obsdesk-cli symbols $(BUILD)/symbols.svg
+	$(MAKE) --no-print-directory deps PACKAGES="$(SYMBOL_PACKAGES)"
+	cmake -S src/desktop/symbol_sheet -B $(BUILD)/symbol-sheet -G Ninja -DCMAKE_BUILD_TYPE=Release
+	cmake --build $(BUILD)/symbol-sheet -j $(JOBS)
+	QT_QPA_PLATFORM=offscreen $(BUILD)/symbol-sheet/obsdesk-symbol-sheet $(BUILD)/symbols.svg $(BUILD)/symbols.png
+	@echo "wrote $(BUILD)/symbols.svg and $(BUILD)/symbols.png"
 
 clean:
 	rm -rf $(BUILD) build-sanitize

@@ -1,25 +1,42 @@
 // obsdesk-cli [--bank DIR] [--now "YYYY-MM-DD HH:MM"] run FILE|-
+// obsdesk-cli symbols FILE   writes the contact sheet of the weather symbols
 #include <fstream>
 #include <iostream>
 #include <string>
 
 #include "bank/bank.h"
 #include "cli/runner.h"
+#include "symbols/contact_sheet.h"
 
 namespace {
 
 int usage(std::ostream& o, int status) {
   o << "usage: obsdesk-cli [--bank DIR] [--now \"YYYY-MM-DD HH:MM\"] run FILE|-\n"
+       "       obsdesk-cli symbols FILE\n"
        "  Runs a scenario: one command a line (start, click, type, set, choose, focus,\n"
        "  enter, key, answer, clock, print, dump, expect, messages).\n"
        "  --bank DIR  the bank root (default: the user's data folder)\n"
-       "  --now TIME  the computer's clock shows this time\n";
+       "  --now TIME  the computer's clock shows this time\n"
+       "  symbols     writes every weather symbol under its code to one SVG file\n";
   return status;
 }
 
 }  // namespace
 
+// The contact sheet of the symbols, for review against the code tables.
+int write_symbols(const char* path) {
+  std::ofstream out(path, std::ios::binary);
+  out << obsdesk::contact_sheet_svg();
+  out.close();
+  if (!out) {
+    std::cerr << "obsdesk-cli: cannot write " << path << "\n";
+    return 2;
+  }
+  return 0;
+}
+
 int main(int argc, char** argv) {
+  if (argc == 3 && std::string(argv[1]) == "symbols") return write_symbols(argv[2]);
   std::filesystem::path bank = obsdesk::default_bank_root();
   std::optional<obsdesk::DateTime> now;
   std::string file;
