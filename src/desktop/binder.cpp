@@ -4,21 +4,26 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCursor>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSvgRenderer>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <set>
 
 #include "core/workstation.h"
 #include "desktop/forms.h"
+#include "symbols/symbols.h"
 
 namespace obsdesk {
 
@@ -34,6 +39,29 @@ QColor colour(long c) {
 }
 
 bool is_box(const Control& c) { return c.kind == Kind::TextBox || c.kind == Kind::ComboBox; }
+
+// The weather symbol a picture id names, drawn once per id and size; a null
+// pixmap for a text that names no symbol (a caption such as "Ok").
+QPixmap symbol_pixmap(const std::string& id, int size) {
+  static std::map<std::pair<std::string, int>, QPixmap> drawn;
+  const auto key = std::make_pair(id, size);
+  auto it = drawn.find(key);
+  if (it != drawn.end()) return it->second;
+  QPixmap pm;
+  const std::string svg = symbol_svg(id);
+  if (!svg.empty()) {
+    QSvgRenderer r(QByteArray::fromStdString(svg));
+    pm = QPixmap(size, size);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    r.render(&p);
+  }
+  return drawn.emplace(key, pm).first->second;
+}
+
+// Pictures are the board buttons and the picture boxes: a symbol where the id
+// names one, the id as text otherwise.
+bool shows_picture(const Control& c) { return c.kind == Kind::Image || c.kind == Kind::Button; }
 
 }  // namespace
 
@@ -85,10 +113,11 @@ void Binder::bind(Screen& screen, QWidget* form) {
   win->form = form;
   Qt::WindowFlags flags = Qt::Window;
   if (&screen == &ws_.FrmERR) flags = Qt::Tool | Qt::WindowStaysOnTopHint;
+  if (&screen == &ws_.FrmTooltip) flags = Qt::ToolTip;
   auto* w = new QWidget(nullptr, flags);
   w->setObjectName(QStringLiteral("ui_window_") + q(screen.name));
   w->setWindowTitle(q(screen.caption.empty() ? screen.name : screen.caption));
-  if (&screen == &ws_.FrmERR) w->setAttribute(Qt::WA_ShowWithoutActivating);
+  if (&screen == &ws_.FrmERR || &screen == &ws_.FrmTooltip) w->setAttribute(Qt::WA_ShowWithoutActivating);
   auto* layout = new QVBoxLayout(w);
   layout->setContentsMargins(0, 0, 0, 0);
   auto* scroll = new QScrollArea(w);
@@ -158,14 +187,7 @@ void Binder::tie(Control& c, QWidget* w) {
   } else if (auto* ab = qobject_cast<QAbstractButton*>(w)) {
     b->button = ab;
     ab->setFocusPolicy(Qt::ClickFocus);
-    connect(ab, &QAbstractButton::clicked, this, [this, raw] {
-      auto hook = before_click_.find(raw->c);
-      if (hook != before_click_.end() && !hook->second()) {
-        sync();
-        return;
-      }
-      send([&] { ws_.click(*raw->c); });
-    });
+    connect(ab, &QAbstractButton::clicked, this, [this, raw] { click(*raw); });
   } else if (auto* l = qobject_cast<QLabel*>(w)) {
     b->label = l;
   } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
@@ -175,6 +197,28 @@ void Binder::tie(Control& c, QWidget* w) {
 }
 
 void Binder::before_click(const Control& c, std::function<bool()> hook) { before_click_[&c] = std::move(hook); }
+
+void Binder::click(Bound& b) {
+  if (ws_.ended()) {
+    // The message the program ended with has been read: the last window goes.
+    if (&b.c->screen == &ws_.FrmERR) {
+      ended_message_read_ = true;
+      sync();
+    }
+    return;
+  }
+  auto hook = before_click_.find(b.c);
+  if (hook != before_click_.end() && !hook->second()) {
+    sync();
+    return;
+  }
+  send([&] { ws_.click(*b.c); });
+}
+
+bool Binder::showing(const Screen& s) const {
+  if (!s.visible) return false;
+  return !ws_.ended() || (&s == &ws_.FrmERR && !ended_message_read_);
+}
 
 template <typename F>
 void Binder::send(F&& f) {
@@ -195,6 +239,10 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Close && !by_widget_.count(watched)) {
     for (auto& win : windows_) {
       if (win->window != watched) continue;
+      if (ws_.ended() && win->screen == &ws_.FrmERR && !ended_message_read_) {
+        ended_message_read_ = true;
+        QTimer::singleShot(0, this, [this] { sync(); });
+      }
       if (syncing_ || ws_.ended()) return false;
       event->ignore();
       if (win->screen == &ws_.FrmMain) send([&] { ws_.click(ws_.FrmMain.CmdEnd); });
@@ -230,13 +278,17 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       send([&] { ws_.focus_now(*b.c); });
       return false;
     }
+    case QEvent::Enter:
+      // The pointer over a control that answers it (a board's picture shows its hint).
+      if (b.c->handler(Event::MouseMove) && !syncing_ && !ws_.ended()) send([&] { ws_.point_at(*b.c); });
+      return false;
     case QEvent::MouseButtonPress:
       if (b.combo && watched == b.combo) send([&] { ws_.click(*b.c); });
       return false;
     case QEvent::MouseButtonRelease:
       if (b.label) {
         if (std::exchange(b.skip_release, false)) return true;
-        send([&] { ws_.click(*b.c); });
+        click(b);
         return true;
       }
       return false;
@@ -256,14 +308,14 @@ void Binder::sync() {
   if (syncing_) return;
   syncing_ = true;
   for (auto& win : windows_) {
-    const bool shown = win->screen->visible && !ws_.ended();
+    const bool shown = showing(*win->screen);
     if (!shown && !(win->window && win->window->isVisible())) continue;
     for (Bound* b : win->bound) sync_control(*b);
   }
   for (auto& win : windows_) sync_window(*win);
   sync_focus();
   syncing_ = false;
-  if (ws_.ended() && on_ended) on_ended();
+  if (ws_.ended() && on_ended && !showing(ws_.FrmERR)) on_ended();
 }
 
 void Binder::refresh(const Screen& s) {
@@ -312,9 +364,23 @@ void Binder::sync_control(Bound& b) {
     }
     if (c.max_length > 0 && b.edit->maxLength() != c.max_length) b.edit->setMaxLength(c.max_length);
   } else if (c.text != b.text) {
-    if (b.page) b.page->setPlainText(q(c.text));
-    else if (b.label) b.label->setText(q(c.text));
-    else if (b.button) b.button->setText(q(c.text));
+    const QPixmap symbol = shows_picture(c) ? symbol_pixmap(c.text, b.button ? 36 : 32) : QPixmap();
+    if (b.page) {
+      b.page->setPlainText(q(c.text));
+    } else if (b.label && !symbol.isNull()) {
+      b.label->setPixmap(symbol);
+      b.label->setAccessibleName(q(c.text));
+    } else if (b.label) {
+      b.label->setText(q(c.text));
+    } else if (b.button && !symbol.isNull()) {
+      // The symbol above its code figure ("63" under the symbol of ww63).
+      b.button->setIcon(QIcon(symbol));
+      b.button->setText(q(symbol_code(c.text)));
+      b.button->setAccessibleName(q(c.text));
+    } else if (b.button) {
+      b.button->setIcon(QIcon());
+      b.button->setText(q(c.text));
+    }
     else if (b.group && !c.text.empty()) b.group->setTitle(q(c.text));  // else the form's own title
     b.text = c.text;
   }
@@ -342,7 +408,7 @@ void Binder::sync_window(Window& win) {
   QWidget* w = win.window;
   if (w == nullptr) return;
   const Screen& s = *win.screen;
-  const bool shown = s.visible && !ws_.ended();
+  const bool shown = showing(s);
   const bool modal = s.modal();
   if (shown && w->isVisible() && modal != win.modal) w->hide();
   if (shown && !w->isVisible()) {
@@ -357,7 +423,11 @@ void Binder::sync_window(Window& win) {
       w->resize(want);
       win.sized = true;
     }
+    if (&s == &ws_.FrmTooltip) w->move(QCursor::pos() + QPoint(12, 16));  // beside the pointer
     w->show();
+  } else if (shown && &s == &ws_.FrmTooltip) {
+    w->adjustSize();
+    w->move(QCursor::pos() + QPoint(12, 16));
   } else if (!shown && w->isVisible()) {
     w->hide();
   }
