@@ -135,6 +135,12 @@ void newW_click(Workstation& ws) {
       ws.set(*m.rain[i], m.rainB[i]->text);
       ws.set(*m.qfe[i], m.qfeB[i]->text);
     }
+    // A new report starts with no report text: a body left from the last one
+    // would go out under this report's heading.
+    for (std::string* line : {&ws.SynopLine1, &ws.SynopLine2, &ws.MetarLine1, &ws.MetarLine2, &ws.SpeciLine1,
+                              &ws.SpeciLine2})
+      line->clear();
+    for (Control* text : Controls{&ws.FrmKashf.txtSYN, &ws.FrmKashf.TXTMET, &ws.FrmKashf.TXTSPE}) ws.set(*text, "");
     keep_row(b);
     b.KASHF.add_new(ws);
     set_browsing(ws, false);

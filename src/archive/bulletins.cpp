@@ -1,6 +1,7 @@
 #include "archive/bulletins.h"
 
 #include "archive/text_archive.h"
+#include "bank/journal.h"
 #include "core/record.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
@@ -58,13 +59,15 @@ Bulletin speci(const BulletinFields& f) {
 
 std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields& f) {
   std::vector<Bulletin> out;
-  if (is_synop_kind(kind)) {
+  // A report that coded no text of a form sends no bulletin of it: its lines are
+  // empty from the moment the report opened or its coder failed.
+  if (is_synop_kind(kind) && !f.synop1.empty()) {
     const std::string heading = synop_heading(f.hour);
     if (!heading.empty()) out.push_back(synop(f, heading));
   }
-  if (kind == kMetar || kind == kSynMet) out.push_back(metar(f));
-  if (kind == kMetar30) out.push_back(metar30(f));
-  if (kind == kSpeci) out.push_back(speci(f));
+  if ((kind == kMetar || kind == kSynMet) && !f.metar1.empty()) out.push_back(metar(f));
+  if (kind == kMetar30 && !f.metar1.empty()) out.push_back(metar30(f));
+  if (kind == kSpeci && !f.speci1.empty()) out.push_back(speci(f));
   return out;
 }
 
@@ -87,12 +90,11 @@ BulletinFields bulletin_fields(Workstation& ws) {
   return f;
 }
 
-void write_bulletins(Workstation& ws, const std::vector<Bulletin>& bulletins) {
+void add_bulletins(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
   for (const Bulletin& b : bulletins) {
     const std::string name = trim(ws.FrmMain.LabName.text) + "\\" + b.file;
     ws.set(ws.FrmDisplayKashf.txtpathnamebank, name);
-    const auto file = bank_file(ws, name);
-    write_lines(file, b.lines);
+    journal.replace(bank_file(ws, name), lines_bytes(b.lines));
   }
 }
 

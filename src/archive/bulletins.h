@@ -11,6 +11,7 @@
 namespace obsdesk {
 
 class Workstation;
+class SaveJournal;
 
 // What the envelopes are made of.
 struct BulletinFields {
@@ -37,7 +38,8 @@ std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields&
 // report lines.
 BulletinFields bulletin_fields(Workstation& ws);
 
-// Writes each bulletin: the file truncated for "ZCZC", then one append a line.
-void write_bulletins(Workstation& ws, const std::vector<Bulletin>& bulletins);
+// Each bulletin joins the save's journal as a file replaced whole: the old
+// bulletin stays until the new one is complete.
+void add_bulletins(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins);
 
 }  // namespace obsdesk

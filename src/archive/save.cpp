@@ -1,10 +1,15 @@
 #include "archive/save.h"
 
+#include <cerrno>
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 #include "archive/browser.h"
 #include "archive/bulletins.h"
 #include "archive/text_archive.h"
+#include "bank/journal.h"
+#include "bank/sqlite.h"
 #include "core/key_text.h"
 #include "core/record.h"
 #include "core/seams.h"
@@ -14,6 +19,14 @@
 namespace obsdesk {
 
 namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kNotSaved =
+    "\nThe report was not saved and nothing of it was written: make room or mend the folder, then save again.";
+constexpr const char* kSavedNotWritten =
+    "\nThe report was saved, but its files could not be put back; they are written again at the next save "
+    "or start: ";
 
 std::string two(long n) { return pad_left(std::to_string(n), 2); }
 long number(const std::string& text) { return int_val(text); }
@@ -77,8 +90,9 @@ void keep_past_row(Workstation& ws) {
   past.update();
 }
 
-// Step 5: the SCDATA lines by station kind, report kind and hour.
-void append_scdata(Workstation& ws) {
+// Step 5: the SCDATA lines by station kind, report kind and hour, listed in the
+// journal in the order they are written.
+void scdata_lines(Workstation& ws, SaveJournal& journal) {
   FrmKashf& k = ws.FrmKashf;
   const std::string folder = station_folder(ws);
   const std::string nnn = station_nnn(ws.FrmOption.NUMCOD.text);
@@ -94,7 +108,9 @@ void append_scdata(Workstation& ws) {
   const std::string kind = k.Combo5.text;
   const bool twelve_hour = ws.FrmOption.Combo1.text == kStation12;
   const long hour = number(k.Text1.text);
-  auto to = [&](const std::string& name, const std::string& line) { append_line(bank_file(ws, name), line); };
+  auto to = [&](const std::string& name, const std::string& line) {
+    journal.append(bank_file(ws, name), line_bytes(line));
+  };
 
   if (twelve_hour && kind == kSpeci) return;
   if (twelve_hour && one_of(hour, {18, 21, 0})) {
@@ -114,6 +130,26 @@ void append_scdata(Workstation& ws) {
   to(it_file_name(folder, nnn, day), it_line(s));
   to(n.month, s);
   to(n.total, s);
+}
+
+// The confirmation's lines are written at once, but recorded first as waiting
+// for their row: a crash before the row is saved takes them back at the next
+// start, and the save that commits the row makes them its own. A write error
+// takes back every line of this confirmation.
+void append_scdata(Workstation& ws) {
+  SaveJournal journal(ws.file_seam);
+  scdata_lines(ws, journal);
+  if (journal.empty()) return;
+  Database& db = ws.FrmDisplayKashf.KASHF.rs.database();
+  announce(ws.file_seam, FileCall::Commit, db.file());
+  const std::int64_t intent = record_provisional(db, ws.bank_root(), journal);
+  try {
+    journal.write();
+  } catch (...) {
+    journal.undo();
+    drop_intent(db, intent);
+    throw;
+  }
 }
 
 // The boxes copied by name from the entry screen into the browser.
@@ -207,18 +243,76 @@ void close_entry(Workstation& ws) {
 
 // ---- Save --------------------------------------------------------------------------
 
-// The month-end rewrite of last month's file, at every 06 UTC report of January.
-void month_end(Workstation& ws, const std::string& prefix_dir, const std::string& prefix) {
+// The month-end rewrite of last month's file, at every 06 UTC report of January:
+// the file gains one line end. A month with no file (a station's first
+// January) has nothing to close and is passed over.
+void month_end(Workstation& ws, SaveJournal& journal, const std::string& prefix_dir, const std::string& prefix) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   if (!b.txt1.text.empty() || val(b.Text1.text) != 6 || val(b.TXTMONTHMI.text) != 1) return;
   const std::string name = station_folder(ws) + prefix_dir + prefix + station_nnn(ws.FrmOption.NUMCOD.text) +
                            previous_month_tag(b.TXTYYMMDDTT.text) + ".dat";
-  ws.set(b.TXTmonth, rewrite_with_line_end(bank_file(ws, name)));
+  const fs::path file = bank_file(ws, name);
+  std::error_code ec;
+  if (!fs::exists(file, ec)) return;
+  std::ifstream in(file, std::ios::binary);
+  if (!in) file_error(file, EACCES);
+  std::ostringstream whole;
+  whole << in.rdbuf();
+  journal.replace(file, whole.str() + "\r\n");
+  ws.set(b.TXTmonth, from_cp1256(whole.str()));
 }
 
 std::string browser_value(Workstation& ws, std::string_view box) {
   Control* c = ws.FrmDisplayKashf.find(box);
   return c != nullptr ? c->text : std::string();
+}
+
+// The open row and the save's intent in one transaction; on failure neither is
+// kept and the row stays open for another save.
+std::int64_t commit_row(Workstation& ws, const SaveJournal& journal) {
+  Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
+  Database& db = rs.database();
+  db.exec("BEGIN IMMEDIATE");
+  try {
+    ws.FrmDisplayKashf.KASHF.update();
+    const std::int64_t intent = record_committed(db, ws.bank_root(), journal);
+    announce(ws.file_seam, FileCall::Commit, db.file());
+    db.exec("COMMIT");
+    return intent;
+  } catch (...) {
+    try {
+      db.exec("ROLLBACK");
+    } catch (const std::exception&) {
+    }
+    if (rs.edit_mode() == Recordset::EditMode::None) rs.add_new();
+    throw;
+  }
+}
+
+// A write of the save failed: every file goes back to its length before the
+// save, the row is taken out again and stays open, and the observer is told.
+// When the files cannot be put back the row stays saved and its intent is
+// finished before the next save, or at the next start.
+void take_back(Workstation& ws, const SaveJournal& journal, std::int64_t intent, const std::exception& cause) {
+  Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
+  Database& db = rs.database();
+  try {
+    journal.undo();
+    db.exec("BEGIN IMMEDIATE");
+    auto row = db.prepare("DELETE FROM KASHF WHERE rowid = ?");
+    row.bind(1, rs.last_modified());
+    row.run();
+    withdraw_intent(db, intent);
+    db.exec("COMMIT");
+    rs.add_new();
+    ws.message(std::string(cause.what()) + kNotSaved);
+  } catch (const std::exception& e) {
+    try {
+      db.exec("ROLLBACK");
+    } catch (const std::exception&) {
+    }
+    ws.message(std::string(cause.what()) + kSavedNotWritten + e.what());
+  }
 }
 
 }  // namespace
@@ -263,31 +357,45 @@ void ZAKHIREH_click(Workstation& ws) {
 
 void save_click(Workstation& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
+  Recordset& rs = b.KASHF.rs;
+  FileSeam* seam = ws.file_seam;
+  const fs::path& root = ws.bank_root();
   try {
-    b.KASHF.update();
+    Database& db = rs.database();
+    // A save whose files were left unwritten is finished before the next.
+    if (has_unapplied(db)) finish_pending(db, root, seam, false);
+
+    // Everything the save writes, listed before anything is written.
+    SaveJournal journal(seam);
+    add_bulletins(ws, journal, bulletins_for(b.TXTSEL.text, bulletin_fields(ws)));
+    month_end(ws, journal, "\\TEXT\\SCDATA\\", "S");
+    ws.set(b.txtkashf, kashf_record([&](std::string_view box) { return browser_value(ws, box); }));
+    journal.append(bank_file(ws, b.TXTFILENAMEKASHFM.text), line_bytes(b.txtkashf.text));
+    journal.append(bank_file(ws, b.TXTFILENAMEKASHFT.text), line_bytes(b.txtkashf.text));
+    month_end(ws, journal, "\\TEXT\\KASHF\\", "KASHF");
+
+    // The row and the intent commit together, and reach the disk with all that
+    // was written before them in the save's one flush.
+    const std::int64_t intent = commit_row(ws, journal);
+    try {
+      flush_files(root, seam);
+      journal.write();
+    } catch (const std::exception& e) {
+      take_back(ws, journal, intent, e);
+      return;
+    }
+    journal.put_in_place();
+    mark_applied(db, intent);
+
     b.KASHF.move_last(ws);
     set_browsing(ws, true);
-    write_bulletins(ws, bulletins_for(b.TXTSEL.text, bulletin_fields(ws)));
-    month_end(ws, "\\TEXT\\SCDATA\\", "S");
-    ws.set(b.txtkashf, kashf_record([&](std::string_view box) { return browser_value(ws, box); }));
-    append_line(bank_file(ws, b.TXTFILENAMEKASHFM.text), b.txtkashf.text);
-    append_line(bank_file(ws, b.TXTFILENAMEKASHFT.text), b.txtkashf.text);
-    month_end(ws, "\\TEXT\\KASHF\\", "KASHF");
     ws.hide(b);
     open_copy_out(ws);
     keep_past_row(ws);
     ws.FrmMain.PAST.refresh(ws);
-    // The report's row, the past-hours row, the confirmation's lines, the
-    // bulletins and the record reach the disk together, in one flush.
-    flush_bank(ws.bank_root());
   } catch (const UsageError&) {
     throw;
   } catch (const std::exception& e) {
-    // What was written before the fault is made to last all the same.
-    try {
-      flush_bank(ws.bank_root());
-    } catch (const std::exception&) {
-    }
     ws.message(e.what());
   }
 }

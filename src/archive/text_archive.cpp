@@ -1,15 +1,7 @@
 #include "archive/text_archive.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstring>
-#include <fstream>
-#include <sstream>
-#include <stdexcept>
-
 #include "bank/bank.h"
+#include "bank/journal.h"
 #include "calendar/calendar.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
@@ -27,48 +19,6 @@ std::string kashf_dir(std::string_view folder) { return std::string(folder) + "\
 
 // A field of a line: the value left-aligned in its width; a longer value stands.
 std::string field(std::string_view value, std::size_t width) { return pad_right(value, width); }
-
-// The runtime's words for a failed file operation, with the file's name.
-[[noreturn]] void fail(const fs::path& file, int err) {
-  const char* what = nullptr;
-  switch (err) {
-    case ENOENT:
-    case ENOTDIR: what = "Path not found"; break;
-    case EACCES:
-    case EPERM:
-    case EROFS: what = "Permission denied"; break;
-    case ENOSPC:
-    case EDQUOT: what = "Disk full"; break;
-    default: what = std::strerror(err); break;
-  }
-  throw std::runtime_error(std::string(what) + ": " + file.string());
-}
-
-void write_all(int fd, const fs::path& file, const std::string& bytes, bool sync = false) {
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
-    if (n < 0) {
-      if (errno == EINTR) continue;
-      const int err = errno;
-      ::close(fd);
-      fail(file, err);
-    }
-    done += static_cast<std::size_t>(n);
-  }
-  if (sync && ::fsync(fd) != 0) {
-    const int err = errno;
-    ::close(fd);
-    fail(file, err);
-  }
-  if (::close(fd) != 0) fail(file, errno);
-}
-
-void write_file(const fs::path& file, const std::string& bytes, int flags) {
-  const int fd = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0644);
-  if (fd < 0) fail(file, errno);
-  write_all(fd, file, bytes);
-}
 
 }  // namespace
 
@@ -168,54 +118,15 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
   return out + "NOTE" + value("Text74");
 }
 
-void append_line(const fs::path& file, std::string_view line) {
-  write_file(file, to_cp1256(line) + "\r\n", O_APPEND);
-}
+std::string line_bytes(std::string_view line) { return to_cp1256(line) + "\r\n"; }
 
-void write_lines(const fs::path& file, const std::vector<std::string>& lines) {
+std::string lines_bytes(const std::vector<std::string>& lines) {
   std::string bytes;
-  for (const std::string& line : lines) bytes += to_cp1256(line) + "\r\n";
-  write_file(file, bytes, O_TRUNC);
+  for (const std::string& line : lines) bytes += line_bytes(line);
+  return bytes;
 }
 
-void flush_bank(const fs::path& root) {
-  const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fd < 0) fail(root, errno);
-  if (::syncfs(fd) != 0) {
-    const int err = errno;
-    ::close(fd);
-    fail(root, err);
-  }
-  ::close(fd);
-}
-
-std::string rewrite_with_line_end(const fs::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) {
-    std::error_code ec;
-    if (!fs::exists(file, ec)) throw std::runtime_error("File not found: " + file.string());
-    fail(file, EACCES);
-  }
-  std::ostringstream whole;
-  whole << in.rdbuf();
-  in.close();
-  // Written beside and put in place in one step, so that a failure half-way
-  // leaves last month's file as it was.
-  const fs::path tmp = file.string() + ".new";
-  const int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-  if (fd < 0) fail(file, errno);
-  // On the disk before it takes the old file's place, so that the name never
-  // stands for an empty file.
-  write_all(fd, tmp, whole.str() + "\r\n", true);
-  std::error_code ec;
-  fs::rename(tmp, file, ec);
-  if (ec) {
-    const int err = ec.value();
-    fs::remove(tmp, ec);
-    fail(file, err);
-  }
-  return from_cp1256(whole.str());
-}
+void flush_bank(const fs::path& root) { flush_files(root); }
 
 fs::path bank_file(Workstation& ws, std::string_view system_name) {
   return resolve_bank_path(ws.bank_root(), system_name);

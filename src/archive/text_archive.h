@@ -1,9 +1,9 @@
 // The text archives beside the KASHF table: \TEXT\SCDATA\ holds the coded
 // synoptic lines (S, G and IT lines), \TEXT\KASHF\ one fixed-width record per
 // saved report. Names are system paths below the bank root, as the bank paths
-// of FrmMain are. On disk every line is Windows-1256 and ends in CR LF; each
-// append opens the file, writes one line and closes it again, and the line is
-// on the disk before the call returns.
+// of FrmMain are. On disk every line is Windows-1256 and ends in CR LF. The
+// lines are written through the save journal (bank/journal.h), so that a report
+// has all of its lines or none.
 #pragma once
 
 #include <filesystem>
@@ -70,19 +70,13 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
 
 // ---- Files ------------------------------------------------------------------
 
-// Appends one line (CR LF added) to the file, creating the file but never its
-// folder. Throws with a clear description ("Path not found", "Permission
-// denied", "Disk full") and the file's name.
-void append_line(const std::filesystem::path& file, std::string_view line);
-// Writes the file anew with the lines, in one write.
-void write_lines(const std::filesystem::path& file, const std::vector<std::string>& lines);
+// A line as the files hold it: Windows-1256, ended by CR LF.
+std::string line_bytes(std::string_view line);
+std::string lines_bytes(const std::vector<std::string>& lines);
 // Everything the program has written under the bank reaches the disk: the text
 // files are written without waiting, and a save flushes them all at once, with
 // one flush of the bank's file system rather than one per file and line.
 void flush_bank(const std::filesystem::path& root);
-// The month-end rewrite: the file read whole, written again with one CR LF
-// more. The text read is returned. A missing file is "File not found".
-std::string rewrite_with_line_end(const std::filesystem::path& file);
 
 // A system name below the bank root as a file under it.
 std::filesystem::path bank_file(Workstation& ws, std::string_view system_name);

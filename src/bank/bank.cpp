@@ -4,10 +4,13 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <vector>
 
+#include "bank/journal.h"
 #include "bank/sqlite.h"
 #include "coders/code_panel.h"
 #include "core/record.h"
@@ -87,11 +90,16 @@ std::string id_path(std::string_view prog) { return std::string(prog) + "\\Bank\
 std::string past_path(std::string_view prog) { return std::string(prog) + "\\bank\\access\\PAST.mdb"; }
 std::string id_row_path(std::string_view prog) { return std::string(prog) + "\\bank\\access\\ID.mdb"; }
 
-std::unique_ptr<BankLock> BankLock::acquire(const fs::path& root) {
+std::unique_ptr<BankLock> BankLock::acquire(const fs::path& root, std::string* reason) {
   const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fd < 0) return nullptr;
+  if (fd < 0) {
+    if (reason != nullptr) *reason = std::strerror(errno);
+    return nullptr;
+  }
   if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+    const int err = errno;
     ::close(fd);
+    if (reason != nullptr) *reason = err == EWOULDBLOCK ? std::string() : std::string(std::strerror(err));
     return nullptr;
   }
   return std::unique_ptr<BankLock>(new BankLock(fd));
@@ -183,51 +191,202 @@ void create_past_table(Database& db) { create_table(db, "Past", past_columns());
 
 void create_station_table(Database& db) { create_table(db, "Station", station_columns()); }
 
-void create_bank(const fs::path& root) {
-  const std::string prog = "VARDOK";
-  const std::string station_folder = prog + "\\BANK\\OIII";
-  try {
-    fs::create_directories(root / prog / "BANK" / "ACCESS");
-    fs::create_directories(root / prog / "BANK" / "OIII" / "ACCESS");
-    fs::create_directories(root / prog / "BANK" / "OIII" / "TEXT" / "SCDATA");
-    fs::create_directories(root / prog / "BANK" / "OIII" / "TEXT" / "KASHF");
-  } catch (const fs::filesystem_error& e) {
-    throw BankError("cannot create the bank at " + root.string() + ": " + e.code().message());
-  }
-  {
-    Database db(resolve_bank_path(root, select_ostan_path(prog)), Database::Mode::Create);
+namespace {
+
+const char* kProg = "VARDOK";
+
+std::string kashf_of(std::string_view folder) { return std::string(folder) + "\\ACCESS\\Kashf.mdb"; }
+std::string station_db_of(std::string_view prog) { return std::string(prog) + "\\BANK\\ACCESS\\Station.mdb"; }
+// Rain.mdb beside Kashf.mdb, named as the start screen names it: the first 24
+// characters of the Kashf path.
+std::string rain_of(std::string_view kashf) { return left(kashf, 24) + "Rain.mdb"; }
+
+// A table the program needs, with the row it needs to work.
+void make_table(Database& db, std::string_view table, std::string_view prog) {
+  if (table == "NameOstan") {
     create_table(db, "NameOstan", {"NameOstan"});
     insert_row(db, "NameOstan", {"NameOstan"}, {{"NameOstan", "TEHRAN"}});
-  }
-  {
-    Database db(resolve_bank_path(root, back_color_path(prog)), Database::Mode::Create);
+  } else if (table == "N_BackColor") {
     create_table(db, "N_BackColor", {"N_BackColor"});
     insert_row(db, "N_BackColor", {"N_BackColor"}, {{"N_BackColor", "&H00C0C0C0&"}});
-  }
-  {
-    Database db(resolve_bank_path(root, id_path(prog)), Database::Mode::Create);
+  } else if (table == "ID") {
     const std::vector<std::string> cols = {"ID", "TXTPathNameBank1", "TXTPathNameBank2"};
     create_table(db, "ID", cols);
     insert_row(db, "ID", cols,
                {{"ID", "1"},
-                {"TXTPathNameBank1", station_folder + "\\ACCESS\\Kashf.mdb"},
-                {"TXTPathNameBank2", prog + "\\BANK\\ACCESS\\Station.mdb"}});
-  }
-  {
-    Database db(resolve_bank_path(root, past_path(prog)), Database::Mode::Create);
+                {"TXTPathNameBank1", kashf_of(std::string(prog) + "\\BANK\\OIII")},
+                {"TXTPathNameBank2", station_db_of(prog)}});
+  } else if (table == "Past") {
     create_past_table(db);
     insert_row(db, "Past", past_columns(), {});
-  }
-  {
-    Database db(resolve_bank_path(root, prog + "\\BANK\\ACCESS\\Station.mdb"), Database::Mode::Create);
+  } else if (table == "Station") {
     create_station_table(db);
     insert_row(db, "Station", station_columns(), demo_station());
-  }
-  {
-    Database db(resolve_bank_path(root, station_folder + "\\ACCESS\\Kashf.mdb"), Database::Mode::Create);
+  } else if (table == "KASHF") {
     create_kashf_table(db);
+  } else if (table == "COOD") {
     create_cood_table(db);
   }
+}
+
+struct DbSpec {
+  std::string path;  // below the drive
+  std::vector<std::string_view> tables;
+};
+
+std::vector<DbSpec> control_databases(std::string_view prog) {
+  return {{select_ostan_path(prog), {"NameOstan"}},
+          {back_color_path(prog), {"N_BackColor"}},
+          {id_path(prog), {"ID"}},
+          {past_path(prog), {"Past"}}};
+}
+
+std::vector<DbSpec> station_databases(std::string_view station_db, std::string_view kashf) {
+  return {{std::string(station_db), {"Station"}}, {std::string(kashf), {"KASHF", "COOD"}}, {rain_of(kashf), {}}};
+}
+
+// A new database with its tables; the file is made in one piece under a
+// temporary name and renamed, so that a stop leaves no database without tables.
+void make_database(const fs::path& file, const std::vector<std::string_view>& tables, std::string_view prog,
+                   FileSeam* seam) {
+  const fs::path tmp = file.string() + ".new";
+  std::error_code ec;
+  fs::remove(tmp, ec);
+  announce(seam, FileCall::Open, file);
+  {
+    Database db(tmp, Database::Mode::Create);
+    // One file, no log beside it, when it is renamed.
+    db.exec("PRAGMA journal_mode=DELETE");
+    db.exec("PRAGMA user_version=1");  // a database with no table is still a whole file
+    db.exec("BEGIN");
+    for (std::string_view t : tables) make_table(db, t, prog);
+    db.exec("COMMIT");
+  }
+  announce(seam, FileCall::Rename, file);
+  fs::rename(tmp, file, ec);
+  if (ec) throw BankError("cannot make " + file.string() + ": " + ec.message());
+}
+
+void make_folders(const fs::path& folder, FileSeam* seam) {
+  announce(seam, FileCall::MakeFolder, folder);
+  std::error_code ec;
+  fs::create_directories(folder, ec);
+  if (ec) throw BankError("cannot create the folder " + folder.string() + ": " + ec.message());
+}
+
+void station_tree(const fs::path& root, std::string_view prog, std::string_view code, FileSeam* seam) {
+  const std::string folder = std::string(prog) + "\\BANK\\" + std::string(code);
+  for (const char* sub : {"\\ACCESS", "\\TEXT\\SCDATA", "\\TEXT\\KASHF"})
+    make_folders(resolve_bank_path(root, folder + sub), seam);
+  for (const DbSpec& db : station_databases("", kashf_of(folder))) {
+    if (db.path.empty()) continue;
+    const fs::path file = resolve_bank_path(root, db.path);
+    std::error_code ec;
+    if (!fs::exists(file, ec)) make_database(file, db.tables, prog, seam);
+  }
+}
+
+}  // namespace
+
+fs::path bank_staging(const fs::path& root) { return root / (std::string(kProg) + ".staging"); }
+
+std::string create_station_tree(const fs::path& root, std::string_view prog, std::string_view code) {
+  station_tree(root, prog, code, nullptr);
+  return kashf_of(std::string(prog) + "\\BANK\\" + std::string(code));
+}
+
+void create_bank(const fs::path& root, FileSeam* seam) {
+  const fs::path staging = bank_staging(root);
+  std::error_code ec;
+  fs::remove_all(staging, ec);
+  try {
+    make_folders(staging / kProg / "BANK" / "ACCESS", seam);
+    for (const DbSpec& db : control_databases(kProg))
+      make_database(resolve_bank_path(staging, db.path), db.tables, kProg, seam);
+    make_database(resolve_bank_path(staging, station_db_of(kProg)), {"Station"}, kProg, seam);
+    station_tree(staging, kProg, "OIII", seam);
+    announce(seam, FileCall::Rename, root / kProg);
+    fs::rename(staging / kProg, root / kProg);
+    fs::remove(staging, ec);
+  } catch (const fs::filesystem_error& e) {
+    throw BankError("cannot create the bank at " + root.string() + ": " + e.code().message());
+  }
+}
+
+std::string database_damage(const fs::path& file) {
+  std::error_code ec;
+  const auto st = fs::status(file, ec);
+  if (fs::is_directory(st)) return "a folder stands in its place";
+  if (!fs::is_regular_file(st)) return "it is not a file";
+  if (fs::file_size(file, ec) == 0) return "the file is empty";
+  try {
+    Database db(file, Database::Mode::ReadOnly);
+    auto check = db.prepare("PRAGMA quick_check");
+    if (!check.step()) return "the check gave no answer";
+    const std::string first = check.text(0);
+    return first == "ok" ? std::string() : "quick check: " + first;
+  } catch (const std::exception& e) {
+    return e.what();
+  }
+}
+
+BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_view stamp) {
+  BankCheck out;
+  std::error_code ec;
+  fs::remove_all(bank_staging(root), ec);  // a first start cut off: begun again below
+  auto look = [&](const DbSpec& spec) {
+    const fs::path file = resolve_bank_path(root, spec.path);
+    if (!fs::exists(fs::symlink_status(file, ec))) {
+      if (!fs::is_directory(file.parent_path(), ec)) make_folders(file.parent_path(), nullptr);
+      make_database(file, spec.tables, prog, nullptr);
+      out.made.push_back(file.string());
+      return true;
+    }
+    const std::string damage = database_damage(file);
+    if (!damage.empty()) {
+      fs::path copy;
+      if (fs::is_regular_file(file, ec)) {
+        copy = file.string() + ".damaged-" + std::string(stamp);
+        if (!fs::copy_file(file, copy, fs::copy_options::skip_existing, ec) || ec) copy.clear();
+      }
+      out.damaged.push_back({file, damage, copy});
+      return false;
+    }
+    Database db(file, Database::Mode::ReadWrite);
+    for (std::string_view t : spec.tables) {
+      if (db.has_table(t)) continue;
+      db.exec("BEGIN");
+      make_table(db, t, prog);
+      db.exec("COMMIT");
+      out.made.push_back(file.string() + ": table " + std::string(t));
+    }
+    return true;
+  };
+  std::string kashf = kashf_of(std::string(prog) + "\\BANK\\OIII"), station_db = station_db_of(prog);
+  bool paths_known = true;
+  for (const DbSpec& spec : control_databases(prog)) {
+    const bool whole = look(spec);
+    if (spec.tables.front() != "ID") continue;
+    paths_known = whole;
+    if (!whole) continue;
+    Database db(resolve_bank_path(root, spec.path), Database::Mode::ReadOnly);
+    auto row = db.prepare("SELECT TXTPathNameBank1, TXTPathNameBank2 FROM ID LIMIT 1");
+    if (row.step()) {
+      if (!trim(row.text(0)).empty()) kashf = trim(row.text(0));
+      if (!trim(row.text(1)).empty()) station_db = trim(row.text(1));
+    }
+  }
+  if (!paths_known) return out;
+  for (const DbSpec& spec : station_databases(station_db, kashf)) look(spec);
+  // The text folders of the station beside its ACCESS folder.
+  const fs::path access = resolve_bank_path(root, kashf).parent_path();
+  for (const char* sub : {"SCDATA", "KASHF"}) {
+    const fs::path folder = access.parent_path() / "TEXT" / sub;
+    if (fs::exists(folder, ec)) continue;
+    make_folders(folder, nullptr);
+    out.made.push_back(folder.string());
+  }
+  return out;
 }
 
 }  // namespace obsdesk

@@ -7,6 +7,11 @@ namespace obsdesk {
 void DataControl::bind(Control& box, std::string column) { bindings_.emplace_back(&box, std::move(column)); }
 
 void DataControl::open(Workstation& ws, const std::filesystem::path& file, std::string_view table) {
+  for (const auto& damaged : ws.damaged_databases) {
+    std::error_code ec;
+    if (file == damaged || std::filesystem::equivalent(file, damaged, ec))
+      throw BankError("database damaged, left unopened: " + file.string());
+  }
   rs.open(file, table);
   for (const auto& [box, column] : bindings_)
     if (!rs.has_column(column))

@@ -32,6 +32,9 @@ class Recordset {
   // one flush of everything it wrote).
   void commit_without_waiting() { db_.commit_without_waiting(); }
   const std::filesystem::path& file() const { return db_.file(); }
+  // The table's database, for work that must commit in one transaction with an
+  // update (the save journal beside a report's row).
+  Database& database() { return db_; }
   const std::string& table() const { return table_; }
   const std::vector<std::string>& columns() const { return cols_; }
   bool has_column(std::string_view column) const { return column_index(column) >= 0; }

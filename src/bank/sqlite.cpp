@@ -5,10 +5,10 @@
 namespace obsdesk {
 
 Database::Database(const std::filesystem::path& file, Mode mode) : file_(file) {
-  if (mode == Mode::ReadWrite && !std::filesystem::exists(file))
+  if (mode != Mode::Create && !std::filesystem::exists(file))
     throw BankError("database not found: " + file.string());
-  const int flags = SQLITE_OPEN_READWRITE | (mode == Mode::Create ? SQLITE_OPEN_CREATE : 0) |
-                    SQLITE_OPEN_NOMUTEX;
+  const int flags = (mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
+                    (mode == Mode::Create ? SQLITE_OPEN_CREATE : 0) | SQLITE_OPEN_NOMUTEX;
   if (sqlite3_open_v2(file.c_str(), &db_, flags, nullptr) != SQLITE_OK) {
     std::string msg = db_ ? sqlite3_errmsg(db_) : "out of memory";
     sqlite3_close(db_);
@@ -19,6 +19,7 @@ Database::Database(const std::filesystem::path& file, Mode mode) : file_(file) {
   // Probe the file once so that a damaged one is told at opening, by its name.
   try {
     exec("PRAGMA schema_version");
+    if (mode == Mode::ReadOnly) return;
     exec("PRAGMA journal_mode=WAL");
     exec("PRAGMA synchronous=FULL");
   } catch (...) {
@@ -128,6 +129,12 @@ Statement& Statement::bind(int index, std::int64_t value) {
   return *this;
 }
 
+Statement& Statement::bind_bytes(int index, std::string_view bytes) {
+  if (sqlite3_bind_blob64(stmt_, index, bytes.data(), bytes.size(), SQLITE_TRANSIENT) != SQLITE_OK)
+    db_->fail("database error in");
+  return *this;
+}
+
 bool Statement::step() {
   const int rc = sqlite3_step(stmt_);
   if (rc == SQLITE_ROW) return true;
@@ -138,6 +145,12 @@ bool Statement::step() {
 
 std::string Statement::text(int column) const {
   const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, column));
+  if (!p) return {};
+  return std::string(p, static_cast<std::size_t>(sqlite3_column_bytes(stmt_, column)));
+}
+
+std::string Statement::bytes(int column) const {
+  const auto* p = static_cast<const char*>(sqlite3_column_blob(stmt_, column));
   if (!p) return {};
   return std::string(p, static_cast<std::size_t>(sqlite3_column_bytes(stmt_, column)));
 }

@@ -25,7 +25,9 @@ class Statement;
 
 class Database {
  public:
-  enum class Mode { ReadWrite, Create };
+  // ReadOnly opens without a write of any kind: the look at a file that may be
+  // damaged.
+  enum class Mode { ReadWrite, Create, ReadOnly };
   Database() = default;
   Database(const std::filesystem::path& file, Mode mode);
   ~Database();
@@ -76,11 +78,14 @@ class Statement {
 
   Statement& bind(int index, std::string_view text);
   Statement& bind(int index, std::int64_t value);
+  // Bytes as they are, not text: the journal's contents may be any bytes.
+  Statement& bind_bytes(int index, std::string_view bytes);
   // Steps once: true while a row is there.
   bool step();
   void run() { while (step()) {} }
   std::string text(int column) const;
   std::int64_t integer(int column) const;
+  std::string bytes(int column) const;
   bool is_null(int column) const;
   void reset();
 

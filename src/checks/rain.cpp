@@ -158,9 +158,49 @@ void rain_box_leave(Workstation& ws, Control& box) {
 
 // ---- The tendency boxes -----------------------------------------------------------
 
-// Characteristic 4 is a steady pressure: its amount is 0.
+// The characteristic a of 5appp is one figure, 0 to 8; anything else would put
+// a letter or a blank into the group. Characteristic 4 is a steady pressure: its
+// amount is 0.
 void Text38_change(Workstation& ws) {
-  if (ws.FrmKashf.Text38.text == "4") ws.set(ws.FrmKashf.Text25, "0");
+  TextBox& box = ws.FrmKashf.Text38;
+  const std::string& t = box.text;
+  if (t.empty()) return;
+  if (t.size() != 1 || t[0] < '0' || t[0] > '8') {
+    refuse(ws, box, kTendencyCheck);
+    return;
+  }
+  if (t == "4") ws.set(ws.FrmKashf.Text25, "0");
+}
+
+// QNT is added behind the SYNOP groups as it stands, so it may only hold what
+// a SYNOP group is made of: figures and "/", groups one blank apart.
+constexpr const char* kQntCheck = "مقدار QNT را چك نمائيد";
+
+void TXT_QNT_change(Workstation& ws) {
+  TextBox& box = ws.FrmKashf.TXT_QNT;
+  for (char c : box.text)
+    if ((c < '0' || c > '9') && c != '/' && c != ' ') {
+      refuse(ws, box, kQntCheck);
+      return;
+    }
+}
+
+// On leaving, every group has its five characters.
+void TXT_QNT_leave(Workstation& ws) {
+  TextBox& box = ws.FrmKashf.TXT_QNT;
+  const std::string& t = box.text;
+  if (t.empty()) return;
+  std::size_t run = 0;
+  bool bad = t.front() == ' ' || t.back() == ' ';
+  for (std::size_t i = 0; i <= t.size() && !bad; ++i) {
+    if (i == t.size() || t[i] == ' ') {
+      bad = run != 5;
+      run = 0;
+    } else {
+      ++run;
+    }
+  }
+  if (bad) refuse(ws, box, kQntCheck);
 }
 
 void Text25_change(Workstation& ws) {
@@ -246,6 +286,8 @@ void wire_rain(Workstation& ws) {
   }
   k.Text18.on(Event::KeyEnter, [](Workstation& w) { walk(w, kPressureExits); });
   k.Text38.on(Event::Change, Text38_change);
+  k.TXT_QNT.on(Event::Change, TXT_QNT_change);
+  k.TXT_QNT.on(Event::Leave, TXT_QNT_leave);
   k.Text25.on(Event::Change, Text25_change);
   k.Text25.on(Event::Leave, Text25_leave);
   k.Text25.on(Event::KeyEnter, Text25_key_enter);

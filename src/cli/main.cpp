@@ -1,5 +1,6 @@
 // obsdesk-cli [--bank DIR] [--now "YYYY-MM-DD HH:MM"] run FILE|-
 // obsdesk-cli symbols FILE   writes the contact sheet of the weather symbols
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -63,6 +64,11 @@ int main(int argc, char** argv) {
   obsdesk::Runner runner(bank, std::cout);
   if (now) runner.set_now(*now);
   if (file == "-") return runner.run(std::cin, "-", std::cerr);
+  std::error_code ec;
+  if (std::filesystem::is_directory(file, ec)) {
+    std::cerr << "obsdesk-cli: " << file << " is a folder, not a script\n";
+    return 2;
+  }
   std::ifstream in(file);
   if (!in) {
     std::cerr << "obsdesk-cli: cannot read " << file << "\n";

@@ -7,6 +7,7 @@
 #include "bank/sqlite.h"
 #include "cli/bank_files.h"
 #include "core/program.h"
+#include "core/textnum.h"
 #include "core/workstation.h"
 
 namespace obsdesk {
@@ -214,12 +215,31 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
   return true;
 }
 
+namespace {
+
+// A text of the script shown in a message: at most 200 characters, so that one
+// runaway line cannot flood the terminal.
+std::string cut(std::string_view text) {
+  constexpr std::size_t kShown = 200;
+  if (len(text) <= kShown) return std::string(text);
+  return left(text, kShown) + "...";
+}
+
+}  // namespace
+
 int Runner::run(std::istream& in, const std::string& source, std::ostream& err) {
   std::string line;
   int number = 0;
   while (std::getline(in, line)) {
     ++number;
+    // A script saved by a Windows editor may start with a byte-order mark.
+    if (number == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
     const std::string where = source + ":" + std::to_string(number) + ": ";
+    auto bad_line = [&](const std::exception& e) {
+      out_.flush();
+      err << where << cut(e.what()) << "\n" << where << "in \"" << cut(line) << "\"\n";
+      return 2;
+    };
     try {
       std::string failure;
       if (!execute(split_command(line), &failure)) {
@@ -228,17 +248,11 @@ int Runner::run(std::istream& in, const std::string& source, std::ostream& err) 
         return 1;
       }
     } catch (const ScriptError& e) {
-      out_.flush();
-      err << where << e.what() << "\n";
-      return 2;
+      return bad_line(e);
     } catch (const UsageError& e) {
-      out_.flush();
-      err << where << e.what() << "\n";
-      return 2;
+      return bad_line(e);
     } catch (const BankError& e) {
-      out_.flush();
-      err << where << e.what() << "\n";
-      return 2;
+      return bad_line(e);
     }
   }
   return 0;

@@ -8,6 +8,7 @@
 
 #include "coders/metar.h"
 #include "coders/metar_groups.h"
+#include "coders/syntax_gate.h"
 #include "core/record.h"
 #include "core/seams.h"
 #include "core/textnum.h"
@@ -207,7 +208,21 @@ void cloud_step(Workstation& ws, MetarForm form, double figure) {
   for (std::size_t i = 0; i < boxes.size(); ++i) ws.set(*boxes[i], groups[i]);
 }
 
-void run(Workstation& ws, MetarForm form) {
+// The entry box a METAR or SPECI group is made from, for the focus when the group
+// fails the final check.
+Control* metar_source(Workstation& ws, const std::string& group) {
+  FrmKashf& k = ws.FrmKashf;
+  FrmCode& p = ws.FrmCode;
+  const std::pair<Control*, Control*> sources[] = {
+      {&p.Text10, &k.txt1},   {&p.txtdddff, &k.Text2}, {&p.TXTDNDX, &k.Text40}, {&p.TXTVVVv, &k.Text4},
+      {&p.TXTVXVXVXDV, &k.Text26}, {&p.Text55, &k.Text12}, {&p.Text61, &k.Text27}, {&p.Text3, &k.Text14}};
+  for (const auto& [box, source] : sources)
+    if (trim(box->text) == group) return source;
+  return nullptr;
+}
+
+// The run up to the report text; false when it ended early.
+bool run(Workstation& ws, MetarForm form) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   if (form == MetarForm::Speci) {
@@ -216,7 +231,7 @@ void run(Workstation& ws, MetarForm form) {
   } else {
     ws.METAR_coded = 1;
   }
-  if (!start_checks(ws)) return;
+  if (!start_checks(ws)) return false;
   const double figure = cloud_figure(k);
   zero_if_empty(ws, {&k.Text7, &k.Text9, &k.Text11, &k.Text16, &k.Text22});
   clear_panel(ws, form);
@@ -232,7 +247,7 @@ void run(Workstation& ws, MetarForm form) {
   ws.set(k.TEXTMIN, figure == 9 ? k.Text12.text
                                 : lowest_cloud(k.Text7.text, k.Text9.text, k.Text11.text, k.Text16.text,
                                                k.Text22.text, k.TEXTMIN.text));
-  if (!sky_step(ws, figure)) return;
+  if (!sky_step(ws, figure)) return false;
   second_visibility_step(ws);
   put(ws, p.Text55, metar_vertical_visibility(k.Text12.text));
   put(ws, p.Text61, temperature_group(k.Text27.text, k.Text29.text));
@@ -250,18 +265,49 @@ void run(Workstation& ws, MetarForm form) {
     ws.set(k.TXTMET, join_groups(frame1_groups(p)) + "=");
     std::tie(ws.MetarLine1, ws.MetarLine2) = split_report(k.TXTMET.text, kLineLimit);
   }
-  open_observer_list(ws);
+  const bool speci = form == MetarForm::Speci;
+  if (const auto fault = metar_fault(speci ? k.TXTSPE.text : k.TXTMET.text, speci)) {
+    ws.error(gate_message(*fault));
+    if (Control* source = metar_source(ws, fault->group)) ws.focus(*source);
+    return false;
+  }
+  return true;
+}
+
+// A run that ended early leaves no report of its form behind, not even an
+// earlier one.
+void forget(Workstation& ws, MetarForm form) {
+  FrmKashf& k = ws.FrmKashf;
+  if (form == MetarForm::Speci) {
+    ws.SPECI_coded = 0;
+    ws.SpeciLine1.clear();
+    ws.SpeciLine2.clear();
+    ws.set(k.TXTSPE, "");
+  } else {
+    ws.METAR_coded = 0;
+    ws.MetarLine1.clear();
+    ws.MetarLine2.clear();
+    ws.set(k.TXTMET, "");
+  }
 }
 
 }  // namespace
 
 void run_metar_coder(Workstation& ws, MetarForm form) {
+  bool coded = false;
   try {
-    run(ws, form);
+    coded = run(ws, form);
+  } catch (const UsageError&) {
+    throw;
   } catch (const std::exception& e) {
     // A text that no group can be built from: its words on the panel, the run ends.
     ws.error(e.what());
   }
+  if (!coded) {
+    forget(ws, form);
+    return;
+  }
+  open_observer_list(ws);
 }
 
 std::string speci_text(Workstation& ws) {

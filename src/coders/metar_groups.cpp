@@ -70,9 +70,9 @@ std::string speci_hhmm(std::string_view txt1) {
   return pad_left(t, 4);
 }
 
-// YhhmmZ: the day with no leading zero
+// DDhhmmZ: the day on two figures, as the time group and the heading need it
 std::string speci_time_group(std::string_view day, std::string_view hhmm) {
-  return num(coder_number(day, "Day")) + std::string(hhmm) + "Z";
+  return two_figures(coder_number(day, "Day")) + std::string(hhmm) + "Z";
 }
 
 // ---- Wind and visibility -----------------------------------------------------------

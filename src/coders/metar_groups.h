@@ -34,7 +34,7 @@ std::string metar30_time_group(std::string_view day, std::string_view hhmm);
 // hhmm of a SPECI: txt1 padded with zeros in front to four figures ("7" gives "0007").
 std::string speci_hhmm(std::string_view txt1);
 
-// DhhmmZ of a SPECI: the day as a number, no leading zero, then hhmm ("51234Z").
+// DDhhmmZ of a SPECI: the day on two figures, then hhmm ("051234Z").
 std::string speci_time_group(std::string_view day, std::string_view hhmm);
 
 // ---- Wind and visibility -----------------------------------------------------------

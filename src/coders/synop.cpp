@@ -4,6 +4,7 @@
 #include "coders/coder_common.h"
 #include "coders/synop_groups.h"
 #include "coders/synop_sections.h"
+#include "coders/syntax_gate.h"
 #include "core/record.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
@@ -178,7 +179,10 @@ std::string join_synop(const std::vector<std::string>& boxes, std::string_view q
 void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
-  if (ws.FrmOption.Combo1.text != station_kind || ws.now().hour != clock_hour) return;
+  // The hour of the clock when the date boxes were filled: the date they hold is
+  // the one this step corrects.
+  const int hour = ws.date_boxes_hour >= 0 ? ws.date_boxes_hour : ws.now().hour;
+  if (ws.FrmOption.Combo1.text != station_kind || hour != clock_hour) return;
   bool hour_matches = false;
   for (std::string_view h : hours) hour_matches = hour_matches || k.Text1.text == h;
   if (!hour_matches) return;
@@ -223,15 +227,33 @@ void set_archive_line(Workstation& ws, std::string line) {
   if (ws.FrmCode.TXTTEDAD.text != "200") ws.error(std::string(kLineNot200));
 }
 
-void run_synop(Workstation& ws) {
+namespace {
+
+// The entry box a group of the SYNOP body is made from, for the focus when the
+// group fails the final check.
+Control* synop_source(Workstation& ws, const std::string& group) {
+  FrmKashf& k = ws.FrmKashf;
+  FrmCode& p = ws.FrmCode;
+  const std::pair<Control*, Control*> sources[] = {
+      {&p.Text76, &k.Text48}, {&p.Text77, &k.Text2},  {&p.Text78, &k.Text3},     {&p.Text79, &k.Text27},
+      {&p.Text80, &k.Text29}, {&p.Text81, &k.Text14}, {&p.Text82, &k.Text14},    {&p.Text83, &k.Text38},
+      {&p.Text84, &k.txtpast6}, {&p.Text86, &k.Text49}, {&p.TXT_QNT, &k.TXT_QNT}};
+  for (const auto& [box, source] : sources)
+    if (box->text == group) return source;
+  return nullptr;
+}
+
+// The run of the coder up to the report text; false when it ended early.
+bool code_synop(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);
 
-  const double irix = val(k.Text48.text);
+  // iX is read as a number: an empty or malformed iR iX ends the run.
+  const double irix = coder_number(k.Text48.text);
   if (irix - 10 * vb_int(irix / 10) == 1 && p.Text85.text == kBlankGroup) {
     ws.error(std::string(kWeatherMissing));
-    return;
+    return false;
   }
   ws.SYNOP_coded = 1;
 
@@ -245,7 +267,7 @@ void run_synop(Workstation& ws) {
   if (!trace && k.Text23.text != "X" && sum == 0 && sky_has_layers(n)) {
     ws.error(std::string(kNoCloudAmounts));
     ws.focus(k.Text6);
-    return;
+    return false;
   }
   clear_synop_frame(ws);
 
@@ -266,7 +288,7 @@ void run_synop(Workstation& ws) {
   // Sections 3 and 5.
   cloud_groups(ws);
   ws.set(p.Text103, humidity_box(k.Text31.text));
-  if (!section3_and_5(ws, hour)) return;
+  if (!section3_and_5(ws, hour)) return false;
   synop_date_step(ws, kStation24, 23, {"00"});
   synop_copies(ws);
 
@@ -286,6 +308,38 @@ void run_synop(Workstation& ws) {
   const std::string slot = upper_air_slot(p.Text93.text, ws.FrmOption.Txth.text, hour);
   set_archive_line(ws, archive_line(ws, slot));
   ws.set(p.TXTgolbad, golbad_line(ws));
+
+  if (const auto fault = synop_fault(text)) {
+    ws.error(gate_message(*fault));
+    if (Control* source = synop_source(ws, fault->group)) ws.focus(*source);
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void forget_synop(Workstation& ws) {
+  ws.SYNOP_coded = 0;
+  ws.SynopLine1.clear();
+  ws.SynopLine2.clear();
+  ws.set(ws.FrmKashf.txtSYN, "");
+}
+
+void run_synop(Workstation& ws) {
+  bool coded = false;
+  try {
+    coded = code_synop(ws);
+  } catch (const UsageError&) {
+    throw;
+  } catch (const std::exception& e) {
+    ws.error(e.what());
+  }
+  // A run that ended early leaves no report behind, not even an earlier one.
+  if (!coded) {
+    forget_synop(ws);
+    return;
+  }
   enable_observer(ws);
 }
 

@@ -25,8 +25,11 @@ inline constexpr std::string_view kNegativeEvaporation = "تبخير نمي تو
 // when a row fails: its message is shown and the focus sent to the box.
 bool synop_cloud_check(Workstation& ws);
 
-// The click of Cmdsynop.
+// The click of Cmdsynop. A run that does not reach a report which passes the
+// final syntax check leaves the SYNOP uncoded: no text, no lines, no flag.
 void run_synop(Workstation& ws);
+// Forgets the SYNOP of the report: its flag, its two lines and txtSYN.
+void forget_synop(Workstation& ws);
 // The click of cmdsynop1218.
 void run_synop1218(Workstation& ws);
 

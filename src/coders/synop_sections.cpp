@@ -77,8 +77,10 @@ std::optional<std::string> vertical_visibility_group(std::string_view vv) {
   return std::nullopt;
 }
 
+// A trace, an empty box and "X" (a layer hidden by an overcast below) are no
+// layer of section 3.
 double section3_amount(std::string_view amount) {
-  if (amount == "TR" || amount == "tr" || blank(amount)) return 0;
+  if (amount == "TR" || amount == "tr" || amount == "X" || blank(amount)) return 0;
   return coder_number(amount);
 }
 
@@ -328,11 +330,14 @@ std::string radiation_group(std::string_view radiation, std::string_view factor)
 }
 
 ReportDate next_report_day(ReportDate d) {
-  const double day = coder_number(d.day) + 1;
+  // The date boxes are read as every box is: a number from the leading figures.
+  // A Persian day left empty (the 29th of February, keyed by hand) stays empty
+  // rather than becoming a day nobody typed.
+  const double day = val(d.day) + 1;
   d.day = two_figures(day);
-  d.sh_day = two_figures(coder_number(d.sh_day) + 1);
-  const double month = coder_number(d.month);
-  const double year = coder_number(d.year);
+  if (!trim(d.sh_day).empty()) d.sh_day = two_figures(val(d.sh_day) + 1);
+  const double month = val(d.month);
+  const double year = val(d.year);
   double last = 31;
   if (month == 2) {
     const long y = static_cast<long>(year);

@@ -37,7 +37,8 @@ struct Section3Clouds {
 };
 using CloudBoxes = std::array<std::string, 4>;  // 8NSCHSHS, 8NSCHSHS1 .. 8NSCHSHS3
 
-// The amount of a row as section 3 counts it: a trace is 0.
+// The amount of a row as section 3 counts it: a trace, an empty box and "X" (a
+// layer hidden by an overcast below) are 0.
 double section3_amount(std::string_view amount);
 // The group 8NsChshs of one row (row 0 is the first low row); five blanks when
 // the row has no height, or its height is "X".

@@ -1,6 +1,8 @@
 #include "core/program.h"
 
 #include "bank/bank.h"
+#include "bank/journal.h"
+#include "bank/sqlite.h"
 #include "core/seams.h"
 #include "core/textnum.h"
 #include "core/workstation.h"
@@ -198,22 +200,79 @@ void open_next_screen(Workstation& ws, int code) {
   }
 }
 
+namespace {
+
+std::string two_figures(int n) { return (n < 10 ? "0" : "") + std::to_string(n); }
+
+// The time of the start as a file-name stamp, YYYYMMDD-HHMM.
+std::string stamp(Workstation& ws) {
+  const DateTime t = ws.now();
+  return std::to_string(t.year) + two_figures(t.month) + two_figures(t.day) + "-" + two_figures(t.hour) +
+         two_figures(t.minute);
+}
+
+void tell_bank_check(Workstation& ws, const BankCheck& check) {
+  if (!check.made.empty()) {
+    std::string text = "The bank lacked what the program needs; made anew, empty:";
+    for (const std::string& m : check.made) text += "\n" + m;
+    ws.message(text, "Bank");
+  }
+  for (const BankCheck::Damage& d : check.damaged) {
+    ws.damaged_databases.push_back(d.file);
+    std::string text = "The database " + d.file.string() + " is damaged (" + d.reason + "). It is left as it is";
+    text += d.copy.empty() ? "" : ", copied to " + d.copy.string() + ",";
+    text += " and nothing is written into it. Restore it from a backup, or move it away and start the program "
+            "again to have an empty one made.";
+    ws.message(text, "Bank");
+  }
+}
+
+// A save cut off by a crash is finished, or a confirmation never saved taken
+// back, before anything else is written.
+void finish_interrupted_saves(Workstation& ws) {
+  const std::string& path = ws.FrmMain.txtpathnamebank1.text;
+  if (trim(path).empty()) return;
+  const auto file = resolve_bank_path(ws.bank_root(), path);
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(file, ec)) return;
+  for (const auto& d : ws.damaged_databases)
+    if (std::filesystem::equivalent(file, d, ec)) return;
+  try {
+    Database db(file, Database::Mode::ReadWrite);
+    const Recovery r = finish_pending(db, ws.bank_root(), ws.file_seam, true);
+    if (r.redone > 0)
+      ws.message("A save cut off at the last run was finished: its archive lines and bulletins are whole.", "Bank");
+    if (r.undone > 0)
+      ws.message("A report confirmed but never saved at the last run was taken back from the archive files.", "Bank");
+  } catch (const std::exception& e) {
+    ws.error(e.what());
+  }
+}
+
+}  // namespace
+
 void start_program(Workstation& ws) {
   namespace fs = std::filesystem;
   const fs::path& root = ws.bank_root();
   std::error_code ec;
   fs::create_directories(root, ec);
   if (ec) throw BankError("cannot create the bank root " + root.string() + ": " + ec.message());
-  auto lock = BankLock::acquire(root);
+  std::string reason;
+  auto lock = BankLock::acquire(root, &reason);
   if (!lock) {
-    ws.message("Program Already Runned");
+    // Only a second running copy is that; any other reason is told as it is.
+    ws.message(reason.empty() ? std::string("Program Already Runned")
+                              : "The bank folder " + root.string() + " cannot be opened: " + reason +
+                                    ". Check that it exists and that it can be read and written.");
     ws.end_program();
     return;
   }
-  if (bank_is_new(root)) create_bank(root);
+  if (bank_is_new(root)) create_bank(root, ws.file_seam);
+  else tell_bank_check(ws, check_bank(root, prog(ws), stamp(ws)));
   ws.hold_lock(std::move(lock));
   ws.show(ws.frmAbout);
   ws.click(ws.frmAbout.cmdOK);
+  finish_interrupted_saves(ws);
 }
 
 void wire_program(Workstation& ws) {

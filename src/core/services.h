@@ -5,6 +5,7 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <string>
 
 namespace obsdesk {
@@ -81,5 +82,23 @@ class MemoryClipboard : public Clipboard {
  private:
   std::string text_;
 };
+
+// The file-system calls that the bank's writers make, each announced before it
+// runs: a test stops the program or fails the call there, and a restart shows
+// what such a stop or fault leaves behind.
+enum class FileCall { MakeFolder, Open, Write, Cut, Rename, Remove, Commit, Flush };
+
+class FileSeam {
+ public:
+  virtual ~FileSeam() = default;
+  // Called before the call runs; may throw (the call fails with that error) or
+  // end the process (a kill at this point).
+  virtual void before(FileCall call, const std::filesystem::path& file) = 0;
+};
+
+// The seam's announcement, when a seam is set.
+inline void announce(FileSeam* seam, FileCall call, const std::filesystem::path& file) {
+  if (seam != nullptr) seam->before(call, file);
+}
 
 }  // namespace obsdesk

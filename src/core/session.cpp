@@ -203,6 +203,7 @@ bool twelve_hour_night(const Workstation& ws) {
 void fill_today(Workstation& ws) {
   FrmKashf& k = ws.FrmKashf;
   const DateTime now = ws.now();
+  ws.date_boxes_hour = now.hour;
   ws.set(k.TXTYEARmi, std::to_string(now.year));
   ws.set(k.TXTMONTHMI, pad_left(std::to_string(now.month), 2));
   ws.set(k.TXTDAYmi, pad_left(std::to_string(now.day), 2));

@@ -17,12 +17,37 @@ constexpr int kMaxNesting = 200;
 // Queued focus moves and posted work handled after one input, at most.
 constexpr int kMaxSettleSteps = 1000;
 
-// Splits UTF-8 text into its characters.
+// The length of the UTF-8 character that starts with this byte; a stray
+// continuation byte stands alone.
+std::size_t char_length(unsigned char lead) {
+  if (lead >= 0xF0) return 4;
+  if (lead >= 0xE0) return 3;
+  if (lead >= 0xC0) return 2;
+  return 1;
+}
+
+// A Persian keyboard types the digits U+06F0 to U+06F9, some layouts the
+// Arabic-Indic U+0660 to U+0669 and U+066B as the decimal sign. Every rule reads
+// ASCII figures, so they are taken as such where typed text enters.
+std::string keyboard_char(std::string_view ch) {
+  if (ch.size() == 2) {
+    const auto b0 = static_cast<unsigned char>(ch[0]), b1 = static_cast<unsigned char>(ch[1]);
+    if (b0 == 0xDB && b1 >= 0xB0 && b1 <= 0xB9) return std::string(1, static_cast<char>('0' + (b1 - 0xB0)));
+    if (b0 == 0xD9 && b1 >= 0xA0 && b1 <= 0xA9) return std::string(1, static_cast<char>('0' + (b1 - 0xA0)));
+    if (b0 == 0xD9 && b1 == 0xAB) return ".";
+  }
+  return std::string(ch);
+}
+
+// Splits UTF-8 text into its characters as typed, in one pass.
 std::vector<std::string> characters(std::string_view text) {
   std::vector<std::string> out;
-  const std::size_t n = len(text);
-  out.reserve(n);
-  for (std::size_t i = 1; i <= n; ++i) out.push_back(char_at(text, i));
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t n = std::min(char_length(static_cast<unsigned char>(text[i])), text.size() - i);
+    out.push_back(keyboard_char(text.substr(i, n)));
+    i += n;
+  }
   return out;
 }
 
@@ -217,12 +242,14 @@ void Workstation::type(Control& c, std::string_view text) {
     bool first = true;  // the first key replaces the selected text
     for (const std::string& ch : characters(text)) {
       if (focused() != &c || ended_) break;
-      if (!c.locked) {
-        std::string t = first ? ch : c.text + ch;
-        if (c.max_length == 0 || len(t) <= static_cast<std::size_t>(c.max_length)) {
-          c.text = std::move(t);
-          fire(c, Event::Change);
-        }
+      // The key goes onto the end of the text in place, so that typing a long
+      // text costs no more than its length.
+      if (!c.locked && (first || c.max_length == 0 || len(c.text) < static_cast<std::size_t>(c.max_length))) {
+        if (first)
+          c.text = ch;
+        else
+          c.text += ch;
+        fire(c, Event::Change);
       }
       first = false;
       settle();
@@ -304,7 +331,7 @@ void Workstation::press_enter() {
 
 void Workstation::key_up(Control& c, std::string key) {
   input([&] {
-    key_ = std::move(key);
+    key_ = keyboard_char(key);
     fire(c, Event::KeyUp);
   });
 }

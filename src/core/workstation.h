@@ -126,12 +126,23 @@ class Workstation {
   std::string GroundSign;    // sign figure of the ground minimum, kept for 3EsnTgTg
   std::string GroundTemp;    // the rounded ground minimum, two figures
   std::string SnowDepth;     // sss of the total snow, kept for 4E'sss
+  // The clock hour at which the entry screen filled its date boxes (-1: not yet).
+  // The step that moves a report made before midnight to the next day reads
+  // this hour, so a report opened at 23:58 and coded at 00:02 keeps its date.
+  int date_boxes_hour = -1;
 
   // Barometer and psychrometry: the results of DAMA_FASHAR and ModuleINVERS, kept
   // from call to call, and the relative humidity last typed in Text31.
   PressureResults pressure;
   double typed_RH = 0;
   std::string GroundCode;    // E or E' of the last state-of-ground button, kept for 4E'sss
+
+  // The file-system seam of the bank's writers: none in the program, a test's
+  // own where it stops or fails the save at a chosen call.
+  FileSeam* file_seam = nullptr;
+  // Bank databases found damaged at start: kept as they are and never opened
+  // for writing in this run.
+  std::vector<std::filesystem::path> damaged_databases;
 
   Asker& asker() { return services_.asker; }
   Clipboard& clipboard() { return services_.clipboard; }

@@ -188,8 +188,24 @@ void Text13_key_enter(Workstation& ws) {
   ws.focus(k.Text14);
 }
 
+// A thermometer box that a rule has emptied takes with it every value worked out
+// from it: humidity, vapour pressure, dew point and the pressures. Left alone
+// they would be those of a reading that was refused.
+void empty_values_of_refused_reading(Workstation& ws) {
+  FrmKashf& k = ws.FrmKashf;
+  const bool wet_typed = ws.humidity_mode != 1;
+  const bool refused = k.Text27.text.empty() || k.Text13.text.empty() || (wet_typed && k.Text28.text.empty());
+  if (!refused) return;
+  for (Control* c : Controls{&k.Text15, &k.Text18, &k.Text19, &k.Text20, &k.Text21, &k.Text24, &k.Text29, &k.Text30})
+    ws.set(*c, "");
+  ws.set(wet_typed ? k.Text31 : k.Text28, "");
+}
+
 void thermometer_key_up(Workstation& ws) {
-  if (thermometer_guard(ws)) compute_pressure(ws);
+  if (thermometer_guard(ws))
+    compute_pressure(ws);
+  else
+    empty_values_of_refused_reading(ws);
 }
 
 void txtt12_key_up(Workstation& ws) {
@@ -240,6 +256,7 @@ void Text28_key_enter(Workstation& ws) {
     if (breach) {
       ws.error(words::kCheckTemperature);
       ws.set(k.Text28, "");
+      empty_values_of_refused_reading(ws);
       ws.focus(k.Text28);
       return;
     }

@@ -77,6 +77,19 @@ void FrmIRIX_Combo3_change(Workstation& ws) {
   ws.hide(f);
 }
 
+// IRIX typed on the entry screen holds the same two figures the board gives: iR
+// 1 to 4, then iX 1 to 6. Any other character would reach the first SYNOP group.
+void Text48_change(Workstation& ws) {
+  TextBox& box = ws.FrmKashf.Text48;
+  const std::string& t = box.text;
+  const bool ir_bad = !t.empty() && (t[0] < '1' || t[0] > '4');
+  const bool ix_bad = t.size() > 1 && (t.size() > 2 || t[1] < '1' || t[1] > '6');
+  if (!ir_bad && !ix_bad) return;
+  ws.error(std::string(ir_bad ? kIrRange : kIxRange));
+  ws.set(box, "");
+  ws.focus(box);
+}
+
 void open_irix_picker(Workstation& ws, bool clear_ir) {
   if (clear_ir) ws.set(ws.FrmIRIX.TXTIR, "");
   ws.show(ws.FrmIRIX);
@@ -92,6 +105,7 @@ void wire_irix(Workstation& ws) {
   f.Combo1.on(Event::Click, FrmIRIX_Combo1_change);
   f.Combo3.on(Event::Click, FrmIRIX_Combo3_change);
   f.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmIRIX); });
+  ws.FrmKashf.Text48.on(Event::Change, Text48_change);
 }
 
 }  // namespace obsdesk

@@ -41,6 +41,7 @@ void FrmZamin_Text1_key_up(Workstation& ws);
 
 // The iR iX board.
 void TXTIR_change(Workstation& ws);
+void Text48_change(Workstation& ws);
 void TXTIX_change(Workstation& ws);
 void FrmIRIX_Combo1_change(Workstation& ws);
 void FrmIRIX_Combo3_change(Workstation& ws);

@@ -71,7 +71,8 @@ void sky_letter_click(Workstation& ws, SkyBoard& board, const std::string& lette
   if (box != nullptr) {
     ws.set(*box, std::string(s->text));
     ws.set(*image, std::string(s->picture));
-    ws.set(ws.FrmCode.Text2, std::string(s->text));
+    // The letter is no METAR group: it stays on the record and its picture, and
+    // never goes into the recent-weather box of the METAR frame.
   }
   ws.hide(ws.FrmTooltip);
   ws.hide(board);

@@ -1,6 +1,10 @@
 #include "settings/station_settings.h"
 
+#include <filesystem>
+
+#include "bank/bank.h"
 #include "core/catalogue/select_station.h"
+#include "core/textnum.h"
 #include "core/workstation.h"
 
 namespace obsdesk {
@@ -99,6 +103,27 @@ void EDITT_click(Workstation& ws) {
   });
 }
 
+// A station stored with a four-letter code that has no folder in the bank yet
+// gets its tree, and the bank path of the ID row points at its Kashf.mdb, so that
+// a station set up here saves its first report without hands on the folders.
+void give_new_station_its_bank(Workstation& ws) {
+  const std::string code = ws.FrmOption.TXTCOD.text;
+  if (code.size() != 4) return;
+  for (char c : code)
+    if (!((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'))) return;
+  const std::string prog = trim(ws.FrmMain.LabName.text);
+  std::error_code ec;
+  if (std::filesystem::exists(resolve_bank_path(ws.bank_root(), prog + "\\BANK\\" + code), ec)) return;
+  const std::string kashf = create_station_tree(ws.bank_root(), prog, code);
+  Recordset& ids = ws.FrmMain.IDPaths.rs;
+  if (ids.is_open() && !ids.eof() && !ids.bof()) {
+    ids.edit();
+    ids.set("TXTPathNameBank1", kashf);
+    ids.update();
+  }
+  ws.set(ws.FrmMain.txtpathnamebank1, kashf);
+}
+
 // Every empty observer box gets the duty observer, so that the observer list of
 // the entry screen never offers a blank line; the program then ends, and the
 // profile comes into force at the next start. The message panel tells the
@@ -111,6 +136,7 @@ void UPDATE_click(Workstation& ws) {
     if (!o.adding) o.editing = !(o.Station.rs.eof() || o.Station.rs.bof());
     if (!commit(w)) return;
     lock_boxes(o, true);
+    give_new_station_its_bank(w);
     w.end_program();
   });
 }

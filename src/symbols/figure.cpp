@@ -6,6 +6,52 @@
 
 namespace obsdesk {
 
+void append_point(std::string& out, double x, double y) {
+  append_number(out, x);
+  out += ',';
+  append_number(out, y);
+}
+
+SvgPath::SvgPath(std::string& out) : out_(out) { out_ += "<path d=\""; }
+
+SvgPath& SvgPath::to(char command, std::initializer_list<Point> points) {
+  next(command);
+  bool first = true;
+  for (auto [x, y] : points) {
+    if (!first) out_ += ' ';
+    first = false;
+    append_point(out_, x, y);
+  }
+  return *this;
+}
+
+SvgPath& SvgPath::arc(double rx, double ry, const char* flags, double x, double y) {
+  next('A');
+  append_point(out_, rx, ry);
+  out_ += ' ';
+  out_ += flags;
+  out_ += ' ';
+  append_point(out_, x, y);
+  return *this;
+}
+
+SvgPath& SvgPath::close() {
+  next('Z');
+  return *this;
+}
+
+void SvgPath::end(const char* attributes) {
+  out_ += '"';
+  out_ += attributes;
+  out_ += "/>";
+}
+
+void SvgPath::next(char command) {
+  if (!empty_) out_ += ' ';
+  empty_ = false;
+  out_ += command;
+}
+
 void append_number(std::string& out, double v) {
   double r = std::round(v * 100) / 100;
   if (r == 0) r = 0;  // no "-0"
@@ -19,58 +65,38 @@ void append_number(std::string& out, double v) {
 
 namespace {
 
+constexpr const char* kFilled = " fill=\"#000\"";
+
 // A small writer of SVG elements; all strokes take the group's pen.
 struct Pen {
   std::string& out;
 
-  void num(double v) { append_number(out, v); }
-  void pt(double x, double y) {
-    num(x);
-    out += ',';
-    num(y);
-  }
-  void line(double x1, double y1, double x2, double y2) {
-    out += "<path d=\"M";
-    pt(x1, y1);
-    out += " L";
-    pt(x2, y2);
-    out += "\"/>";
-  }
+  SvgPath path() { return SvgPath(out); }
+  void line(double x1, double y1, double x2, double y2) { path().to('M', {{x1, y1}}).to('L', {{x2, y2}}).end(); }
   // A polyline or polygon through the points; closed and filled on request.
-  void poly(std::initializer_list<std::pair<double, double>> pts, bool closed, bool filled) {
-    out += "<path d=\"";
-    char op = 'M';
-    for (auto [x, y] : pts) {
-      out += op;
-      pt(x, y);
-      out += ' ';
-      op = 'L';
+  void poly(std::initializer_list<SvgPath::Point> points, bool closed, bool filled) {
+    SvgPath d = path();
+    char command = 'M';
+    for (const SvgPath::Point& pt : points) {
+      d.to(command, {pt});
+      command = 'L';
     }
-    if (closed) out += 'Z';
-    else out.pop_back();
-    out += filled ? "\" fill=\"#000\"/>" : "\"/>";
+    if (closed) d.close();
+    d.end(filled ? kFilled : "");
   }
-  void disc(double x, double y, double r) {
+  void circle(double x, double y, double r, const char* attributes) {
     out += "<circle cx=\"";
-    num(x);
+    append_number(out, x);
     out += "\" cy=\"";
-    num(y);
+    append_number(out, y);
     out += "\" r=\"";
-    num(r);
-    out += "\" fill=\"#000\" stroke=\"none\"/>";
+    append_number(out, r);
+    out += '"';
+    out += attributes;
+    out += "/>";
   }
-  void ring(double x, double y, double r) {
-    out += "<circle cx=\"";
-    num(x);
-    out += "\" cy=\"";
-    num(y);
-    out += "\" r=\"";
-    num(r);
-    out += "\"/>";
-  }
-  // Raw path data, written with the helpers above by the caller.
-  void path_begin() { out += "<path d=\""; }
-  void path_end(bool filled = false) { out += filled ? "\" fill=\"#000\"/>" : "\"/>"; }
+  void disc(double x, double y, double r) { circle(x, y, r, " fill=\"#000\" stroke=\"none\""); }
+  void ring(double x, double y, double r) { circle(x, y, r, ""); }
 };
 
 void arrow_head(Pen& p, double x, double y, double dx, double dy, double size) {
@@ -88,19 +114,12 @@ void octas(Pen& p, double x, double y, double r, int n) {
   p.ring(x, y, r);
   auto sector = [&](double from_deg, double to_deg) {
     const double a0 = (from_deg - 90) * std::numbers::pi / 180, a1 = (to_deg - 90) * std::numbers::pi / 180;
-    p.path_begin();
-    p.out += 'M';
-    p.pt(x, y);
-    p.out += " L";
-    p.pt(x + r * std::cos(a0), y + r * std::sin(a0));
-    p.out += " A";
-    p.num(r);
-    p.out += ',';
-    p.num(r);
-    p.out += to_deg - from_deg > 180 ? " 0 1 1 " : " 0 0 1 ";
-    p.pt(x + r * std::cos(a1), y + r * std::sin(a1));
-    p.out += " Z";
-    p.out += "\" fill=\"#000\" stroke=\"none\"/>";
+    p.path()
+        .to('M', {{x, y}})
+        .to('L', {{x + r * std::cos(a0), y + r * std::sin(a0)}})
+        .arc(r, r, to_deg - from_deg > 180 ? "0 1 1" : "0 0 1", x + r * std::cos(a1), y + r * std::sin(a1))
+        .close()
+        .end(" fill=\"#000\" stroke=\"none\"");
   };
   switch (n) {
     case 1: p.line(x, y - r, x, y + r); break;
@@ -112,11 +131,7 @@ void octas(Pen& p, double x, double y, double r, int n) {
     case 7:
       // Overcast with openings: the disc with a white bar down its middle.
       p.disc(x, y, r);
-      p.out += "<path d=\"M";
-      p.pt(x, y - r + 1);
-      p.out += " L";
-      p.pt(x, y + r - 1);
-      p.out += "\" stroke=\"#fff\"/>";
+      p.path().to('M', {{x, y - r + 1}}).to('L', {{x, y + r - 1}}).end(" stroke=\"#fff\"");
       break;
     case 8: p.disc(x, y, r); break;
     case 9: {
@@ -131,7 +146,7 @@ void octas(Pen& p, double x, double y, double r, int n) {
 
 // Barograph traces of the tendency characteristic, in units of a 20 by 16 box.
 void tendency(Pen& p, const Primitive& m) {
-  static const std::vector<std::pair<double, double>> traces[9] = {
+  static const std::vector<SvgPath::Point> traces[9] = {
       {{-10, 6}, {0, -6}, {10, 2}},      // 0 up, then down; same or higher
       {{-10, 6}, {0, -6}, {10, -6}},     // 1 up, then steady
       {{-10, 6}, {10, -6}},              // 2 up
@@ -143,16 +158,13 @@ void tendency(Pen& p, const Primitive& m) {
       {{-10, -4}, {0, -4}, {10, 8}},     // 8 steady, then down
   };
   if (m.arg < 0 || m.arg > 8) return;
-  p.path_begin();
-  char op = 'M';
+  SvgPath d = p.path();
+  char command = 'M';
   for (auto [tx, ty] : traces[m.arg]) {
-    p.out += op;
-    p.pt(m.x + tx * m.w, m.y + ty * m.w);
-    p.out += ' ';
-    op = 'L';
+    d.to(command, {{m.x + tx * m.w, m.y + ty * m.w}});
+    command = 'L';
   }
-  p.out.pop_back();
-  p.path_end();
+  d.end();
 }
 
 void draw(Pen& p, const Primitive& m) {
@@ -161,14 +173,7 @@ void draw(Pen& p, const Primitive& m) {
     case Shape::Dot: p.disc(x, y, 3.6 * s); break;
     case Shape::Comma:
       p.disc(x, y, 3.4 * s);
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x + 3.2 * s, y);
-      p.out += " Q";
-      p.pt(x + 3.6 * s, y + 6 * s);
-      p.out += ' ';
-      p.pt(x - 2.5 * s, y + 9 * s);
-      p.path_end();
+      p.path().to('M', {{x + 3.2 * s, y}}).to('Q', {{x + 3.6 * s, y + 6 * s}, {x - 2.5 * s, y + 9 * s}}).end();
       break;
     case Shape::Asterisk:
       for (double deg : {90.0, 30.0, 150.0}) {
@@ -185,7 +190,7 @@ void draw(Pen& p, const Primitive& m) {
       break;
     case Shape::Line: p.line(x, y, x + m.w, y + m.h); break;
     case Shape::Thunder:
-      // The frame "R" of the thunderstorm, then the arrow from its top right.
+      // The frame of the thunderstorm, then the arrow from its top right.
       p.poly({{x - 7 * s, y + 12 * s}, {x - 7 * s, y - 11 * s}, {x + 6 * s, y - 11 * s}}, false, false);
       if (m.arg == 1) p.line(x - 7 * s, y - 6 * s, x + 3 * s, y - 6 * s);
       p.poly({{x + 6 * s, y - 11 * s}, {x + 1 * s, y + 1 * s}, {x + 7 * s, y + 1 * s}, {x + 3 * s, y + 12 * s}}, false,
@@ -202,39 +207,16 @@ void draw(Pen& p, const Primitive& m) {
       break;
     case Shape::Paren: {
       const double d = m.arg < 0 ? -1 : 1;
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - d * 2, y - m.h);
-      p.out += " Q";
-      p.pt(x + d * 5, y);
-      p.out += ' ';
-      p.pt(x - d * 2, y + m.h);
-      p.path_end();
+      p.path().to('M', {{x - d * 2, y - m.h}}).to('Q', {{x + d * 5, y}, {x - d * 2, y + m.h}}).end();
       break;
     }
     case Shape::SandS:
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x + 5 * s, y - 6.5 * s);
-      p.out += " C";
-      p.pt(x + 4 * s, y - 11 * s);
-      p.out += ' ';
-      p.pt(x - 6 * s, y - 11 * s);
-      p.out += ' ';
-      p.pt(x - 5 * s, y - 5 * s);
-      p.out += " C";
-      p.pt(x - 4 * s, y);
-      p.out += ' ';
-      p.pt(x + 5 * s, y - 0.5 * s);
-      p.out += ' ';
-      p.pt(x + 5 * s, y + 5 * s);
-      p.out += " C";
-      p.pt(x + 6 * s, y + 11 * s);
-      p.out += ' ';
-      p.pt(x - 4 * s, y + 11 * s);
-      p.out += ' ';
-      p.pt(x - 5 * s, y + 6.5 * s);
-      p.path_end();
+      p.path()
+          .to('M', {{x + 5 * s, y - 6.5 * s}})
+          .to('C', {{x + 4 * s, y - 11 * s}, {x - 6 * s, y - 11 * s}, {x - 5 * s, y - 5 * s}})
+          .to('C', {{x - 4 * s, y}, {x + 5 * s, y - 0.5 * s}, {x + 5 * s, y + 5 * s}})
+          .to('C', {{x + 6 * s, y + 11 * s}, {x - 4 * s, y + 11 * s}, {x - 5 * s, y + 6.5 * s}})
+          .end();
       break;
     case Shape::Arrow: {
       const double x2 = x + m.w, dir = m.w < 0 ? -1 : 1;
@@ -249,94 +231,49 @@ void draw(Pen& p, const Primitive& m) {
       break;
     }
     case Shape::Drift:
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - 12 * s, y + 7 * s);
-      p.out += " Q";
-      p.pt(x - 10 * s, y);
-      p.out += ' ';
-      p.pt(x - 4 * s, y);
-      p.out += " L";
-      p.pt(x + 12 * s, y);
-      p.path_end();
+      p.path()
+          .to('M', {{x - 12 * s, y + 7 * s}})
+          .to('Q', {{x - 10 * s, y}, {x - 4 * s, y}})
+          .to('L', {{x + 12 * s, y}})
+          .end();
       if (m.arg == 1) p.line(x - 4 * s, y - 4 * s, x + 10 * s, y - 4 * s);
       arrow_head(p, x + 12 * s, y, 1, 0, 5 * s);
       break;
     case Shape::Funnel:
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - 8 * s, y - 11 * s);
-      p.out += " Q";
-      p.pt(x + 1 * s, y);
-      p.out += ' ';
-      p.pt(x - 8 * s, y + 11 * s);
-      p.out += " M";
-      p.pt(x + 8 * s, y - 11 * s);
-      p.out += " Q";
-      p.pt(x - 1 * s, y);
-      p.out += ' ';
-      p.pt(x + 8 * s, y + 11 * s);
-      p.path_end();
+      p.path()
+          .to('M', {{x - 8 * s, y - 11 * s}})
+          .to('Q', {{x + 1 * s, y}, {x - 8 * s, y + 11 * s}})
+          .to('M', {{x + 8 * s, y - 11 * s}})
+          .to('Q', {{x - 1 * s, y}, {x + 8 * s, y + 11 * s}})
+          .end();
       break;
     case Shape::Infinity:
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x, y);
-      p.out += " C";
-      p.pt(x + 4 * s, y - 7 * s);
-      p.out += ' ';
-      p.pt(x + 12 * s, y - 7 * s);
-      p.out += ' ';
-      p.pt(x + 12 * s, y);
-      p.out += " C";
-      p.pt(x + 12 * s, y + 7 * s);
-      p.out += ' ';
-      p.pt(x + 4 * s, y + 7 * s);
-      p.out += ' ';
-      p.pt(x, y);
-      p.out += " C";
-      p.pt(x - 4 * s, y - 7 * s);
-      p.out += ' ';
-      p.pt(x - 12 * s, y - 7 * s);
-      p.out += ' ';
-      p.pt(x - 12 * s, y);
-      p.out += " C";
-      p.pt(x - 12 * s, y + 7 * s);
-      p.out += ' ';
-      p.pt(x - 4 * s, y + 7 * s);
-      p.out += ' ';
-      p.pt(x, y);
-      p.path_end();
+      p.path()
+          .to('M', {{x, y}})
+          .to('C', {{x + 4 * s, y - 7 * s}, {x + 12 * s, y - 7 * s}, {x + 12 * s, y}})
+          .to('C', {{x + 12 * s, y + 7 * s}, {x + 4 * s, y + 7 * s}, {x, y}})
+          .to('C', {{x - 4 * s, y - 7 * s}, {x - 12 * s, y - 7 * s}, {x - 12 * s, y}})
+          .to('C', {{x - 12 * s, y + 7 * s}, {x - 4 * s, y + 7 * s}, {x, y}})
+          .end();
       break;
     case Shape::Smoke:
       p.line(x - 6 * s, y + 12 * s, x - 6 * s, y - 6 * s);
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - 6 * s, y - 6 * s);
-      p.out += " Q";
-      p.pt(x - 2 * s, y - 13 * s);
-      p.out += ' ';
-      p.pt(x + 2 * s, y - 6 * s);
-      p.out += " T";
-      p.pt(x + 10 * s, y - 6 * s);
-      p.path_end();
+      p.path()
+          .to('M', {{x - 6 * s, y - 6 * s}})
+          .to('Q', {{x - 2 * s, y - 13 * s}, {x + 2 * s, y - 6 * s}})
+          .to('T', {{x + 10 * s, y - 6 * s}})
+          .end();
       break;
     case Shape::Wave: {
       const int n = m.arg < 1 ? 1 : m.arg;
       const double step = static_cast<double>(m.w) / n, amp = 3.5;
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - m.w / 2, y);
+      SvgPath d = p.path();
+      d.to('M', {{x - m.w / 2, y}});
       for (int i = 0; i < n; ++i) {
         const double x0 = x - m.w / 2 + i * step;
-        p.out += " Q";
-        p.pt(x0 + step / 4, y - amp * 2);
-        p.out += ' ';
-        p.pt(x0 + step / 2, y);
-        p.out += " T";
-        p.pt(x0 + step, y);
+        d.to('Q', {{x0 + step / 4, y - amp * 2}, {x0 + step / 2, y}}).to('T', {{x0 + step, y}});
       }
-      p.path_end();
+      d.end();
       break;
     }
     case Shape::Circle:
@@ -345,42 +282,29 @@ void draw(Pen& p, const Primitive& m) {
       break;
     case Shape::Dome:
     case Shape::Cup: {
-      const double sweep = m.shape == Shape::Dome ? 1 : 0;
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x - m.w, y);
-      p.out += " A";
-      p.pt(m.w, m.h);
-      p.out += sweep != 0 ? " 0 0 1 " : " 0 0 0 ";
-      p.pt(x + m.w, y);
-      if (m.arg == 1) {
-        p.out += " Z";
-      }
-      p.path_end();
+      SvgPath d = p.path();
+      d.to('M', {{x - m.w, y}}).arc(m.w, m.h, m.shape == Shape::Dome ? "0 0 1" : "0 0 0", x + m.w, y);
+      if (m.arg == 1) d.close();
+      d.end();
       break;
     }
     case Shape::Hook: {
       const double d = m.arg == 1 ? 1 : -1;
-      p.path_begin();
-      p.out += 'M';
-      p.pt(x, y);
-      p.out += " L";
-      p.pt(x + m.w - 5, y);
-      p.out += " Q";
-      p.pt(x + m.w + 2, y);
-      p.out += ' ';
-      p.pt(x + m.w + 1, y + d * 9);
-      p.path_end();
+      p.path()
+          .to('M', {{x, y}})
+          .to('L', {{x + m.w - 5, y}})
+          .to('Q', {{x + m.w + 2, y}, {x + m.w + 1, y + d * 9}})
+          .end();
       break;
     }
     case Shape::Tendency: tendency(p, m); break;
     case Shape::Letter:
       p.out += "<text x=\"";
-      p.num(x);
+      append_number(p.out, x);
       p.out += "\" y=\"";
-      p.num(y + 7 * s);
+      append_number(p.out, y + 7 * s);
       p.out += "\" font-size=\"";
-      p.num(20 * s);
+      append_number(p.out, 20 * s);
       p.out += "\" text-anchor=\"middle\" font-family=\"sans-serif\" fill=\"#000\" stroke=\"none\">";
       p.out += m.text;
       p.out += "</text>";

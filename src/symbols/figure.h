@@ -6,8 +6,10 @@
 // and stroke width, so it scales to any control and prints cleanly.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace obsdesk {
@@ -58,5 +60,25 @@ std::string figure_svg(const Figure& figure);
 
 // A number as SVG wants it: at most two decimals, no trailing zeros.
 void append_number(std::string& out, double v);
+// "x,y"
+void append_point(std::string& out, double x, double y);
+
+// The data of one <path>, written straight into out: commands joined by
+// blanks, each a letter and its points ("M1,2 Q3,4 5,6"); end() closes the
+// element with its own attributes.
+class SvgPath {
+ public:
+  using Point = std::pair<double, double>;
+  explicit SvgPath(std::string& out);
+  SvgPath& to(char command, std::initializer_list<Point> points);
+  SvgPath& arc(double rx, double ry, const char* flags, double x, double y);
+  SvgPath& close();
+  void end(const char* attributes = "");
+
+ private:
+  void next(char command);
+  std::string& out_;
+  bool empty_ = true;
+};
 
 }  // namespace obsdesk

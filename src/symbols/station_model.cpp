@@ -26,7 +26,8 @@ std::string precipitation(int rrr) {
   return std::to_string(rrr);
 }
 
-// A scratch group of SVG for the symbols, with the pen of the figures.
+// A symbol placed and scaled in the model; an id with no symbol (cover not
+// reported) draws the bare station circle.
 void symbol_at(std::string& out, std::string_view id, double x, double y, double scale) {
   const Figure* f = symbol_figure(id);
   out += "<g transform=\"translate(";
@@ -37,7 +38,7 @@ void symbol_at(std::string& out, std::string_view id, double x, double y, double
   append_number(out, scale);
   out += ")\">";
   if (f) append_figure_svg(out, *f);
-  else out += "<circle r=\"14\"/>";  // cover not reported: the bare circle
+  else out += "<circle r=\"14\"/>";
   out += "</g>";
 }
 
@@ -131,64 +132,25 @@ std::string station_model_svg(const StationModel& m) {
     // Barbs lean away from the station on the clockwise side of the shaft.
     const double phi = 70 * std::numbers::pi / 180;
     const double bx = ux * std::cos(phi) - uy * std::sin(phi), by = ux * std::sin(phi) + uy * std::cos(phi);
-    const double r0 = 8, r1 = 44;
-    auto at = [&](double d, double* px, double* py) {
-      *px = ux * d;
-      *py = uy * d;
-    };
-    double x0, y0, x1, y1;
-    at(r0, &x0, &y0);
-    at(r1, &x1, &y1);
-    out += "<path stroke-width=\"1.5\" d=\"M";
-    append_number(out, x0);
-    out += ',';
-    append_number(out, y0);
-    out += " L";
-    append_number(out, x1);
-    out += ',';
-    append_number(out, y1);
-    int rest = m.wind_knots;
-    double d = r1;
-    const bool lone_half = rest < 10;
-    for (; rest >= 50; rest -= 50) d -= 7;  // pennants, filled below
-    if (lone_half) d -= 5;  // a lone half barb stands off the tip
-    for (; rest >= 5; rest -= 10, d -= 5) {
-      const double len = rest >= 10 ? 14 : 7;
-      double px, py;
-      at(d, &px, &py);
-      out += " M";
-      append_number(out, px);
-      out += ',';
-      append_number(out, py);
-      out += " l";
-      append_number(out, bx * len);
-      out += ',';
-      append_number(out, by * len);
-    }
-    out += "\"/>";
-    if (m.wind_knots >= 50) {
-      // Pennants are filled: drawn again as areas.
-      out += "<path fill=\"#000\" stroke-width=\"1\" d=\"";
-      double dd = r1;
-      for (int k = m.wind_knots; k >= 50; k -= 50, dd -= 7) {
-        double px, py, qx, qy;
-        at(dd, &px, &py);
-        at(dd - 6, &qx, &qy);
-        out += "M";
-        append_number(out, px);
-        out += ',';
-        append_number(out, py);
-        out += " L";
-        append_number(out, px + bx * 14);
-        out += ',';
-        append_number(out, py + by * 14);
-        out += " L";
-        append_number(out, qx);
-        out += ',';
-        append_number(out, qy);
-        out += " Z ";
+    auto at = [&](double d) { return SvgPath::Point{ux * d, uy * d}; };
+    auto barb = [&](double d, double len) { return SvgPath::Point{ux * d + bx * len, uy * d + by * len}; };
+    constexpr double kInner = 8, kTip = 44, kFull = 14, kPennantStep = 7, kBarbStep = 5;
+
+    const int pennants = m.wind_knots / 50;
+    int rest = m.wind_knots - 50 * pennants;
+    double d = kTip - kPennantStep * pennants;
+    if (m.wind_knots < 10) d -= kBarbStep;  // a lone half barb stands off the tip
+    SvgPath shaft(out);
+    shaft.to('M', {at(kInner)}).to('L', {at(kTip)});
+    for (; rest >= 5; rest -= 10, d -= kBarbStep) shaft.to('M', {at(d)}).to('L', {barb(d, rest >= 10 ? kFull : kFull / 2)});
+    shaft.end(" stroke-width=\"1.5\"");
+    if (pennants > 0) {
+      SvgPath flags(out);
+      for (int k = 0; k < pennants; ++k) {
+        const double dk = kTip - kPennantStep * k;
+        flags.to('M', {at(dk)}).to('L', {barb(dk, kFull), at(dk - 6)}).close();
       }
-      out += "\"/>";
+      flags.end(" fill=\"#000\" stroke-width=\"1\"");
     }
   }
   out += "</g><g font-family=\"sans-serif\" font-size=\"11\" fill=\"#000\">";

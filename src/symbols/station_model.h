@@ -44,7 +44,9 @@ StationModel station_model(const SynopReading& reading);
 StationModel station_model(std::string_view synop_text);
 
 // The station model of a coded SYNOP as a standalone SVG document (view box
-// "-110 -80 220 160"); the groups that could not be read are listed under it.
+// "-110 -80 220 160", the circle at 0,0); the groups that could not be read are
+// listed under the model in red, the box growing by a line for each. This is
+// what the desktop shows beside the code panel, redrawn when txtSYN changes.
 std::string station_model_svg(std::string_view synop_text);
 std::string station_model_svg(const StationModel& model);
 

@@ -65,5 +65,33 @@ TEST(Bulletins, EachKindWritesItsEnvelopes) {
   }
 }
 
+// A form whose coder did not run, or failed, has no lines: no bulletin of it is
+// written, so nothing of an earlier report goes out under this one's heading.
+TEST(Bulletins, AFormWithNoCodedTextWritesNoBulletin) {
+  struct Case {
+    std::string_view kind;
+    const char* hour;
+    bool synop, metar, speci;  // which lines the coders left
+    std::vector<std::string> files;
+  };
+  const Case cases[] = {
+      {kSynop, "00", false, true, true, {}},
+      {kSynMet, "12", false, true, false, {"METAR.DAT"}},
+      {kSynMet, "12", true, false, false, {"SYNOP.DAT"}},
+      {kMetar, "07", true, false, true, {}},
+      {kMetar30, "07", false, false, false, {}},
+      {kSpeci, "", true, true, false, {}},
+  };
+  for (const Case& c : cases) {
+    BulletinFields f = fields(c.hour, false);
+    if (!c.synop) f.synop1.clear();
+    if (!c.metar) f.metar1.clear();
+    if (!c.speci) f.speci1.clear();
+    std::vector<std::string> files;
+    for (const Bulletin& b : bulletins_for(c.kind, f)) files.push_back(b.file);
+    EXPECT_EQ(files, c.files) << c.kind << " at " << c.hour;
+  }
+}
+
 }  // namespace
 }  // namespace obsdesk

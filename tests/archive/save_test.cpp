@@ -167,24 +167,39 @@ TEST(Save, AMissingFolderStopsTheConfirmationAndNothingIsLost) {
   for (const auto& [name, lines] : lines_in(scdata_dir(s))) EXPECT_EQ(lines, 1) << name;
 }
 
-TEST(Save, AFaultAtSaveKeepsTheCommittedRowAndTheBulletin) {
+// A save that cannot write its files takes everything back: the row, the
+// bulletin, the record; the row stays open and saves once the fault is mended,
+// with each line once.
+TEST(Save, AFaultAtSaveTakesTheSaveBackAndASecondSaveGoesThrough) {
   Station s;
   Workstation& ws = enter(s, {});
   confirm(ws);
+  const auto confirmed = lines_in(scdata_dir(s));
   fs::remove_all(kashf_dir(s));
   std::ofstream(kashf_dir(s)) << "not a folder";
   ws.click(ws.FrmDisplayKashf.save);
   const std::string msg = first_message(ws);
   EXPECT_EQ(msg.rfind("box: Path not found: ", 0), 0u) << msg;
+  EXPECT_NE(msg.find("was not saved"), std::string::npos) << msg;
+  EXPECT_EQ(kashf_value(s, "count(*)"), "0");
+  EXPECT_FALSE(fs::exists(s.root() / "VARDOK" / "SYNOP.DAT"));
+  EXPECT_EQ(lines_in(scdata_dir(s)), confirmed);  // the confirmation's lines wait for the row
+  EXPECT_TRUE(ws.FrmDisplayKashf.visible);
+  EXPECT_TRUE(ws.FrmDisplayKashf.save.enabled);
+
+  fs::remove(kashf_dir(s));
+  fs::create_directory(kashf_dir(s));
+  ws.click(ws.FrmDisplayKashf.save);
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
   EXPECT_EQ(kashf_value(s, "count(*)"), "1");
   EXPECT_TRUE(fs::exists(s.root() / "VARDOK" / "SYNOP.DAT"));
-  EXPECT_TRUE(ws.FrmDisplayKashf.visible);        // the steps after it are not done
-  EXPECT_FALSE(ws.FrmDisplayKashf.save.enabled);  // a second save of the row cannot happen
+  for (const auto& [name, lines] : lines_in(kashf_dir(s))) EXPECT_EQ(lines, 1) << name;
+  EXPECT_EQ(lines_in(scdata_dir(s)), confirmed);
 }
 
-// In January the 06 UTC save rewrites December's files; when they are missing
-// the save is told so, and the row stays saved.
-TEST(Save, AJanuaryMorningWithoutLastMonthsFilesIsTold) {
+// A station's first January: the 06 UTC save finds no December files to close
+// and passes them over.
+TEST(Save, AJanuaryMorningWithoutLastMonthsFilesSavesWhole) {
   Station s;
   Obs o;
   o.year = "2025";
@@ -193,9 +208,10 @@ TEST(Save, AJanuaryMorningWithoutLastMonthsFilesIsTold) {
   Workstation& ws = enter(s, o);
   confirm(ws);
   ws.click(ws.FrmDisplayKashf.save);
-  const std::string msg = first_message(ws);
-  EXPECT_EQ(msg.rfind("box: File not found: ", 0), 0u) << msg;
-  EXPECT_FALSE(fs::exists(kashf_dir(s) / "KASHF754.dat"));
+  EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
+  EXPECT_FALSE(fs::exists(kashf_dir(s) / "KASHF7542412.dat"));
+  EXPECT_FALSE(fs::exists(scdata_dir(s) / "S7542412.dat"));
+  EXPECT_EQ(lines_in(kashf_dir(s))["KASHF754.dat"], 1);
   EXPECT_EQ(kashf_value(s, "count(*)"), "1");
 }
 

@@ -3,9 +3,7 @@
 #include "archive/text_archive.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <fstream>
 #include <map>
 
 #include "core/textnum.h"
@@ -15,19 +13,6 @@ namespace obsdesk {
 namespace {
 
 namespace fs = std::filesystem;
-
-using test::read_bytes;
-
-// The message a call throws, or "no error".
-template <class F>
-std::string error_of(F&& f) {
-  try {
-    f();
-  } catch (const std::exception& e) {
-    return e.what();
-  }
-  return "no error";
-}
 
 
 TEST(TextArchive, TheClimatologicalDayOfTheItFile) {
@@ -84,53 +69,11 @@ TEST(TextArchive, KashfRecordPadsEachFieldButTheVaryingOnes) {
   EXPECT_EQ(mid(r, len(r) - 4 - len(v["Text74"]) - 29, 30), pad_right("علي محمدي", 30));
 }
 
-TEST(TextArchive, LinesGoToDiskInTheCodePageWithCrLf) {
-  test::TempDir dir;
-  const fs::path f = dir.path() / "S754.dat";
-  append_line(f, "2407542403200612570");
-  append_line(f, "علي");
-  EXPECT_EQ(read_bytes(f), "2407542403200612570\r\n" + to_cp1256("علي") + "\r\n");
-  EXPECT_EQ(read_bytes(f).size(), 19u + 2u + 3u + 2u);  // one byte a Persian letter
-  write_lines(f, {"ZCZC", "علي"});
-  EXPECT_EQ(read_bytes(f), "ZCZC\r\n" + to_cp1256("علي") + "\r\n");
-  write_lines(f, {"ZCZC"});
-  EXPECT_EQ(read_bytes(f), "ZCZC\r\n");
-  EXPECT_EQ(rewrite_with_line_end(f), "ZCZC\r\n");
-  EXPECT_EQ(read_bytes(f), "ZCZC\r\n\r\n");
-  EXPECT_FALSE(fs::exists(f.string() + ".new"));
-}
-
-// Missing folders, a file in a folder's place and a full disk are each told by
-// name, and no folder is made on the way.
-TEST(TextArchive, FaultsAreToldByName) {
-  test::TempDir dir;
-  const fs::path missing = dir.path() / "NOFOLDER" / "S754.dat";
-  EXPECT_EQ(error_of([&] { append_line(missing, "x"); }), "Path not found: " + missing.string());
-  EXPECT_FALSE(fs::exists(missing.parent_path()));  // folders are not made here
-  const fs::path blocked = dir.path() / "afile";
-  std::ofstream(blocked) << "kept\r\n";
-  EXPECT_EQ(error_of([&] { append_line(blocked / "S754.dat", "x"); }),
-            "Path not found: " + (blocked / "S754.dat").string());
-  EXPECT_EQ(error_of([&] { rewrite_with_line_end(dir.path() / "S7542412.dat"); }),
-            "File not found: " + (dir.path() / "S7542412.dat").string());
-  if (fs::exists("/dev/full")) {  // a device that is always full
-    EXPECT_EQ(error_of([&] { append_line("/dev/full", "x"); }), "Disk full: /dev/full");
-  }
-}
-
-// Apart, as permissions do not bind a privileged user.
-TEST(TextArchive, AReadOnlyFolderIsToldAndLeftAsItWas) {
-  test::TempDir dir;
-  const fs::path ro = dir.path() / "ro";
-  fs::create_directory(ro);
-  std::ofstream(ro / "S754.dat") << "kept\r\n";
-  fs::permissions(ro, fs::perms::owner_read | fs::perms::owner_exec);
-  fs::permissions(ro / "S754.dat", fs::perms::owner_read);
-  if (::access((ro / "S754.dat").c_str(), W_OK) == 0) GTEST_SKIP() << "permissions do not bind this user";
-  for (const fs::path& f : {ro / "S754.dat", ro / "new.dat"})
-    EXPECT_EQ(error_of([&] { append_line(f, "x"); }), "Permission denied: " + f.string());
-  EXPECT_EQ(error_of([&] { rewrite_with_line_end(ro / "S754.dat"); }), "Permission denied: " + (ro / "S754.dat").string());
-  EXPECT_EQ(read_bytes(ro / "S754.dat"), "kept\r\n");
+TEST(TextArchive, LinesAreInTheCodePageWithCrLf) {
+  EXPECT_EQ(line_bytes("2407542403200612570"), "2407542403200612570\r\n");
+  EXPECT_EQ(line_bytes("علي"), to_cp1256("علي") + "\r\n");
+  EXPECT_EQ(line_bytes("علي").size(), 3u + 2u);  // one byte a Persian letter
+  EXPECT_EQ(lines_bytes({"ZCZC", "علي"}), "ZCZC\r\n" + to_cp1256("علي") + "\r\n");
 }
 
 }  // namespace

@@ -34,7 +34,11 @@ TEST(Thermometer, DryBulbAboveThreeWithSnowIsAsked) {
     int ww;
     const char* typed;
     bool asked;
-  } const rows[] = {{71, "5", true}, {71, "3", false}, {94, "12", true}, {61, "12", false}, {-1, "12", false}};
+  } const rows[] = {{71, "5", true},   {71, "3", false},  {94, "12", true},  {61, "12", false}, {-1, "12", false},
+                    // The edges of the snow-and-ice set: 68 to 79, 83 to 86, 88, 93, 94.
+                    {67, "5", false},  {68, "5", true},   {79, "5", true},   {80, "5", false},  {82, "5", false},
+                    {83, "5", true},   {86, "5", true},   {87, "5", false},  {88, "5", true},   {89, "5", false},
+                    {92, "5", false},  {93, "5", true},   {95, "5", false}};
   for (const Row& r : rows) {
     Entry e;
     if (r.ww >= 0) e.k.Image1.text = std::string(present_weather_picture(r.ww));

@@ -2,6 +2,8 @@
 // a click on the coder button, then the code panel, the report text and the lines.
 #include <gtest/gtest.h>
 
+#include "coders/syntax_gate.h"
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -58,8 +60,8 @@ TEST(SpeciCoder, SplitsIntoItsOwnLines) {
                    {"Text39", "280"}, {"Text6", "2"}, {"Text8", "3"}, {"Combo2", "SC     4"}, {"Text9", "900"},
                    {"Text10", "5"}, {"Combo3", "SC     5"}, {"Text11", "1200"}, {"Text20", "29.97"}});
   e.click(e.ws.FrmKashf.Command8);
-  EXPECT_EQ(e["TXTSPE"], "70007Z 24019G29KT 200V280 8000 FEW020 SCT030 BKN040 25/12 Q1015=");
-  EXPECT_EQ(e.ws.SpeciLine1, "70007Z 24019G29KT 200V280 8000 FEW020 SCT030");
+  EXPECT_EQ(e["TXTSPE"], "070007Z 24019G29KT 200V280 8000 FEW020 SCT030 BKN040 25/12 Q1015=");
+  EXPECT_EQ(e.ws.SpeciLine1, "070007Z 24019G29KT 200V280 8000 FEW020 SCT030");
   EXPECT_EQ(e.ws.SpeciLine2, "BKN040 25/12 Q1015=");
   EXPECT_EQ(e["FrmCode.Text30"], "A2997");
   EXPECT_EQ(e.ws.SPECI_coded, 1);
@@ -74,7 +76,7 @@ TEST(SpeciCoder, KeepsGroupsOfAnEarlierReportAndDoesNotMerge) {
   EXPECT_TRUE(messages.empty());
   EXPECT_EQ(e["FrmCode.Text56"], "FEW020CB");
   EXPECT_EQ(e["FrmCode.Text57"], "SCT020CB");
-  EXPECT_EQ(e["TXTSPE"], "71234Z 24008KT 8000 VV005 FEW020CB SCT020CB 10/05 Q1015=");
+  EXPECT_EQ(e["TXTSPE"], "071234Z 24008KT 8000 VV005 FEW020CB SCT020CB 10/05 Q1015=");
 }
 
 TEST(MetarCoder, SkyGroups) {
@@ -107,9 +109,14 @@ TEST(MetarCoder, ConvectiveLayersAtOneHeightMergeWithAWordOnTooMuchCloud) {
   Entry e(kMetar, {{"Text5", "8"}, {"Text6", "5"}, {"Combo1", "CB     3"}, {"Text8", "4"}, {"Combo2", "CB     9"},
                    {"Text9", "600"}, {"Text10", "7"}, {"Combo3", "SC     5"}, {"Text11", "1200"}});
   const auto messages = e.click(e.ws.FrmKashf.Command4);
-  ASSERT_EQ(messages.size(), 1u);
+  ASSERT_EQ(messages.size(), 2u);
   EXPECT_EQ(messages[0], "box: مجموع ابر هاي دو لايه بيش ار 8/8 ميباشد");
-  EXPECT_EQ(e["TXTMET"], " 24008KT 8000 020CB BKN040 25/12 Q1015=");
+  // Two layers above 8 oktas leave the merged group with no cover: the panel
+  // shows it, but the report is not coded with it.
+  EXPECT_EQ(e["FrmCode.Text56"], "020CB");
+  EXPECT_EQ(messages[1], "FrmERR: " + gate_message({"020CB"}));
+  EXPECT_EQ(e["TXTMET"], "");
+  EXPECT_EQ(e.ws.METAR_coded, 0);
 }
 
 TEST(MetarCoder, RefusalsEndTheRun) {

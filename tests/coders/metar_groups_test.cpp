@@ -82,7 +82,7 @@ TEST(TimeGroup, HalfHourAndSpeciForms) {
   EXPECT_EQ(metar30_time_group("7", "1230"), "071230Z");
   EXPECT_EQ(speci_hhmm("7"), "0007");
   EXPECT_EQ(speci_hhmm("1234"), "1234");
-  EXPECT_EQ(speci_time_group("05", "1234"), "51234Z");
+  EXPECT_EQ(speci_time_group("05", "1234"), "051234Z");
   EXPECT_EQ(speci_time_group("17", "0007"), "170007Z");
 }
 

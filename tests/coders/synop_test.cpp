@@ -87,13 +87,13 @@ TEST(SynopReport, ALongReportBreaksAtTheLastBlankWithin61) {
   Example e;
   Workstation& ws = e.ws;
   put(ws, {{"Text1", "15"}, {"Text60", "31.2"}, {"Text59", "12.5"}, {"Text32", "20.4"}, {"Text33", "-"},
-           {"TXT_QNT", "QNT"}});
+           {"TXT_QNT", "91234"}});
   ws.FrmCode.Text85.text = "70222";
   ws.click(ws.FrmKashf.Cmdsynop);
   EXPECT_EQ(ws.FrmKashf.txtSYN.text,
-            "32558 52404 10254 20121 30125 40150 53012 70222 83100 333 10312 83820 QNT=");
+            "32558 52404 10254 20121 30125 40150 53012 70222 83100 333 10312 83820 91234=");
   EXPECT_EQ(ws.SynopLine1, "32558 52404 10254 20121 30125 40150 53012 70222 83100 333");
-  EXPECT_EQ(ws.SynopLine2, "10312 83820 QNT=");
+  EXPECT_EQ(ws.SynopLine2, "10312 83820 91234=");
   EXPECT_EQ(ws.FrmCode.Text84.text, "     ");  // no rain group at 15 with no rain
   EXPECT_EQ(ws.FrmCode.Text41.text, "10204");  // soil, archive line only
   EXPECT_EQ(ws.FrmCode.Text42.text, "     ");
@@ -106,32 +106,36 @@ TEST(SynopReport, RefusalsAndFailuresStopTheRunWhereTheyStand) {
     const char* name;
     std::vector<std::pair<const char*, const char*>> values;
     std::string message;
-    int coded;
     const char* focus;      // "" when the focus stays on the button
     const char* last_box;   // a box the run reached ("" for none)
     const char* first_left; // a box the run did not reach
   };
   const Case table[] = {
-      {"iX 1 without weather", {{"Text48", "31"}}, "FrmERR: " + std::string(kWeatherMissing), 0, "", "", "Text77"},
+      {"iX 1 without weather", {{"Text48", "31"}}, "FrmERR: " + std::string(kWeatherMissing), "", "", "Text77"},
       {"no cloud amounts", {{"Text6", "0"}, {"Text7", "0"}, {"Combo1", "       0"}, {"Text49", "0"}, {"Combo4", "       0"}, {"txtmin", "0"}},
-       "FrmERR: " + std::string(kNoCloudAmounts), 1, "FrmKashf.Text6", "", "Text77"},
-      {"empty dew point", {{"Text29", ""}}, "FrmERR: Type mismatch", 1, "", "Text79", "Text80"},
-      {"letters in the wind", {{"Text3", "4k"}}, "FrmERR: Type mismatch", 1, "", "", "Text77"},
-      {"negative evaporation", {{"Text66", "-1.2"}}, "box: " + std::string(kNegativeEvaporation), 1,
+       "FrmERR: " + std::string(kNoCloudAmounts), "FrmKashf.Text6", "", "Text77"},
+      {"empty dew point", {{"Text29", ""}}, "FrmERR: Type mismatch", "", "Text79", "Text80"},
+      {"letters in the wind", {{"Text3", "4k"}}, "FrmERR: Type mismatch", "", "", "Text77"},
+      {"negative evaporation", {{"Text66", "-1.2"}}, "box: " + std::string(kNegativeEvaporation),
        "FrmKashf.Text66", "Text86", "Text94"},
   };
   for (const Case& c : table) {
     Example e;
     Workstation& ws = e.ws;
     for (const auto& [name, text] : c.values) ws.control(name)->text = text;
+    // What an earlier run of the coder left.
     ws.FrmKashf.txtSYN.text = "before";
+    ws.SynopLine1 = ws.SynopLine2 = "before";
+    ws.SYNOP_coded = 1;
     ws.FrmKashf.Frame8.visible = true;  // the pan boxes, shown at 06
     ws.click(ws.FrmKashf.Cmdsynop);
     const auto messages = ws.take_messages();
     ASSERT_FALSE(messages.empty()) << c.name;
     EXPECT_EQ(messages.back(), c.message) << c.name;
-    EXPECT_EQ(ws.SYNOP_coded, c.coded) << c.name;
-    EXPECT_EQ(ws.FrmKashf.txtSYN.text, "before") << c.name;
+    // A run that stops leaves no report behind, not even the one before it.
+    EXPECT_EQ(ws.SYNOP_coded, 0) << c.name;
+    EXPECT_EQ(ws.SynopLine1 + ws.SynopLine2, "") << c.name;
+    EXPECT_EQ(ws.FrmKashf.txtSYN.text, "") << c.name;
     if (*c.focus) {
       EXPECT_EQ(ws.focused()->full_name(), c.focus) << c.name;
     }

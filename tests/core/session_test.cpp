@@ -174,8 +174,8 @@ TEST(Session, ObserverChosenAfterTheCoderOpensConfirmation) {
   test::Station s;
   Workstation& ws = entry(s, kMetar);
   FrmKashf& k = ws.FrmKashf;
-  ws.METAR_coded = 1;
-  ws.dbl_click(k.Command4);  // the pointer over the button...
+  ws.dbl_click(k.Command4);  // the pointer over the button (the run fails: nothing typed)...
+  ws.METAR_coded = 1;        // ...as if it had coded...
   ws.dbl_click(k.Text44);    // ...and on
   EXPECT_EQ(k.Combo7.text, "نام ديدبان كشيك");
   ASSERT_EQ(k.Combo7.items.size(), 4u);  // the demo profile has four observers
@@ -184,6 +184,30 @@ TEST(Session, ObserverChosenAfterTheCoderOpensConfirmation) {
   EXPECT_FALSE(k.ZAKHIREH.enabled);
   ws.choose(k.Combo7, k.Combo7.items[0]);
   EXPECT_TRUE(k.ZAKHIREH.enabled);
+}
+
+// Confirmation opens only when every coder the report kind needs has run.
+TEST(Session, ConfirmationWaitsForEveryCoderOfTheKind) {
+  const struct {
+    std::string_view kind;
+    int synop, metar, speci;
+    bool open;
+  } cases[] = {
+      {kSynMet, 1, 0, 0, false}, {kSynMet, 0, 1, 0, false}, {kSynMet, 1, 1, 0, true},
+      {kSynop, 1, 0, 0, true},   {kSynop, 0, 1, 0, false},  {kMetar, 0, 1, 0, true},
+      {kMetar, 1, 0, 1, false},  {kSpeci, 0, 1, 0, false},  {kSpeci, 0, 0, 1, true},
+  };
+  for (const auto& c : cases) {
+    test::Station s;
+    Workstation& ws = entry(s, c.kind);
+    FrmKashf& k = ws.FrmKashf;
+    k.Combo7.items = {"OBSERVER"};
+    ws.SYNOP_coded = c.synop;
+    ws.METAR_coded = c.metar;
+    ws.SPECI_coded = c.speci;
+    ws.choose(k.Combo7, "OBSERVER");
+    EXPECT_EQ(k.ZAKHIREH.enabled, c.open) << c.kind << c.synop << c.metar << c.speci;
+  }
 }
 
 // The observer who types RH instead of the wet bulb does so for one report: once

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
+
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -68,14 +70,37 @@ TEST_F(Events, TypingReplacesTheTextThenAddsOneCharacterAChange) {
   pad.B.on(Event::KeyUp, [&](Workstation& w) { keys += w.key(); });
   ws().set_text(pad.B, "old");
   seen.clear();
-  ws().type(pad.B, "1۲34");  // max length 3: the fourth key does nothing
-  EXPECT_EQ(seen, (std::vector<std::string>{"1", "1۲", "1۲3"}));
-  EXPECT_EQ(keys, "1۲34");
-  EXPECT_EQ(pad.B.text, "1۲3");
+  ws().type(pad.B, "1234");  // max length 3: the fourth key does nothing
+  EXPECT_EQ(seen, (std::vector<std::string>{"1", "12", "123"}));
+  EXPECT_EQ(keys, "1234");
+  EXPECT_EQ(pad.B.text, "123");
   pad.A.locked = true;
   pad.A.text = "keep";
   ws().type(pad.A, "x");
   EXPECT_EQ(pad.A.text, "keep");
+}
+
+// Persian and Arabic-Indic digits, and the Arabic decimal sign, are typed as the
+// figures the rules read; other Persian letters stay as they are.
+TEST_F(Events, PersianKeyboardDigitsAreTypedAsFigures) {
+  const struct {
+    const char* typed;
+    const char* text;
+  } cases[] = {
+      {"۰۱۲۳۴۵۶۷۸۹", "0123456789"},
+      {"٠١٢٣٤٥٦٧٨٩", "0123456789"},
+      {"-۱۲٫۵", "-12.5"},
+      {"۱٫", "1."},
+      {"ب۱x", "ب1x"},
+  };
+  for (const auto& c : cases) {
+    ws().type(pad.A, c.typed);
+    EXPECT_EQ(pad.A.text, c.text) << c.typed;
+  }
+  std::string key;
+  pad.C.on(Event::KeyUp, [&](Workstation& w) { key = w.key(); });
+  ws().key_up(pad.C, "۷");
+  EXPECT_EQ(key, "7");
 }
 
 TEST_F(Events, TypingStopsWhenARuleSendsTheFocusAway) {
@@ -123,6 +148,20 @@ TEST_F(Events, AnEndlessChainOfChangesIsStopped) {
   pad.C.on(Event::Change, [&](Workstation& w) { w.set(pad.A, pad.C.text + "c"); });
   ws().set_text(pad.A, "x");
   EXPECT_EQ(pad.B.text, "xa");  // A is guarded while its handler runs
+}
+
+TEST_F(Events, AChainDeeperThanTheRuntimeAllowsIsStopped) {
+  // Three hundred boxes, each change setting the next: no box is re-entered, so
+  // only the depth of the chain can stop it.
+  Screen deep("Deep");
+  std::deque<TextBox> boxes;
+  for (int i = 0; i < 300; ++i) boxes.emplace_back(deep, "T" + std::to_string(i));
+  for (std::size_t i = 0; i + 1 < boxes.size(); ++i)
+    boxes[i].on(Event::Change, [&boxes, i](Workstation& w) { w.set(boxes[i + 1], "x"); });
+  ws().set_text(boxes[0], "x");
+  EXPECT_EQ(boxes[150].text, "x");
+  EXPECT_EQ(boxes.back().text, "");
+  EXPECT_EQ(ws().FrmERR.Label1.text, "Out of stack space");
 }
 
 TEST_F(Events, HiddenFramesAndMasksKeepTheirBoxesOutOfReach) {

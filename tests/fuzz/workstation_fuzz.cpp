@@ -1,7 +1,9 @@
 // A seeded storm of what an observer can do: random clicks, key strokes, typed
 // texts, list choices, answers and clock changes over every control of every
 // screen, in sequences on a fresh bank each. After every sequence every database
-// of the bank must pass SQLite's integrity check. A sequence is reproduced by its
+// of the bank must pass SQLite's integrity check, and after every event each
+// report a coder has coded (the lines that go into the bulletins) must pass the
+// final syntax check of the coders. A sequence is reproduced by its
 // number, and --print writes it as a scenario for the runner, so a fault it finds
 // becomes a regression scenario.
 //
@@ -10,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <random>
 #include <sstream>
 #include <string>
@@ -17,6 +20,7 @@
 #include <vector>
 
 #include "bank/sqlite.h"
+#include "coders/syntax_gate.h"
 #include "cli/runner.h"
 #include "core/workstation.h"
 
@@ -137,6 +141,26 @@ bool bank_sound(const fs::path& root, std::string& why) {
   return true;
 }
 
+// The report text of a coder's two bulletin lines, as the coder joined it.
+std::string joined(const std::string& line1, const std::string& line2) {
+  return line2.empty() ? line1 : line1 + " " + line2;
+}
+
+// Every coded report passes the syntax check; false with the reason when one
+// does not. The lines, not the boxes, are read: the runner can type into a box,
+// but only a coder writes the lines that reach the bulletins.
+bool coded_reports_sound(const Workstation& ws, std::string& why) {
+  std::optional<GateFault> f;
+  std::string text;
+  if (!ws.SynopLine1.empty() && (f = synop_fault(text = joined(ws.SynopLine1, ws.SynopLine2)))) {
+  } else if (!ws.MetarLine1.empty() && (f = metar_fault(text = joined(ws.MetarLine1, ws.MetarLine2), false))) {
+  } else if (!ws.SpeciLine1.empty() && (f = metar_fault(text = joined(ws.SpeciLine1, ws.SpeciLine2), true))) {
+  }
+  if (!f) return true;
+  why = "a coded report fails the syntax check at \"" + f->group + "\": " + text;
+  return false;
+}
+
 // Runs one sequence; false with the reason when the workstation broke.
 bool run_sequence(const Options& o, long k, const fs::path& root, long& events, std::string& why) {
   std::mt19937_64 rng(o.seed * 1000003ULL + static_cast<std::uint64_t>(k));
@@ -169,6 +193,10 @@ bool run_sequence(const Options& o, long k, const fs::path& root, long& events, 
         continue;
       }
       if (!perform(next_command(*ws, rng))) return false;
+      if (runner.workstation() != nullptr && !coded_reports_sound(*runner.workstation(), why)) {
+        why = "after \"" + script.back() + "\": " + why;
+        return false;
+      }
     }
   }
   return bank_sound(root, why);

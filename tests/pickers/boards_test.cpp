@@ -164,12 +164,14 @@ TEST(SkyLetters, TheLetterGoesToTheBoxOfTheSelector) {
     ws.FrmKashf.Text5.text = "9";
     ws.FrmKashf.TWW.text = c.tww;
     ws.WeatherBoxSelect = c.select;
+    ws.FrmCode.Text2.text = "RERA";
     open_sky_board(ws, ws.FrmBCOBCOY);
     ws.click(*ws.FrmBCOBCOY.letter("bcy"));
     EXPECT_FALSE(ws.FrmBCOBCOY.visible);
     EXPECT_EQ(s.at(c.box).text, " bcy") << c.box;
     EXPECT_EQ(s.at(c.image).text, "sky_bcy") << c.image;
-    EXPECT_EQ(ws.FrmCode.Text2.text, " bcy");
+    // A sky letter is no METAR group: the recent-weather group stays as it was.
+    EXPECT_EQ(ws.FrmCode.Text2.text, "RERA");
   }
   // Nothing to write to: the board just hides.
   test::Station s;
