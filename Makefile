@@ -75,8 +75,9 @@ fuzz: deps
 	build-sanitize/tests/obsdesk_fuzz --seed 1 --events $(FUZZ_EVENTS)
 
 bench: configure
-	cmake --build $(BUILD) --target obsdesk_bench -j $(JOBS)
+	cmake --build $(BUILD) --target obsdesk_bench obsdesk_desktop_bench -j $(JOBS)
 	$(BUILD)/bench/obsdesk_bench
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/obsdesk_desktop_bench 2>&1 | grep -v 'does not support'
 
 # Every weather symbol under its code: $(BUILD)/symbols.svg from the core, and
 # $(BUILD)/symbols.png drawn from it by Qt, offscreen.

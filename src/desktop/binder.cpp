@@ -40,28 +40,56 @@ QColor colour(long c) {
 
 bool is_box(const Control& c) { return c.kind == Kind::TextBox || c.kind == Kind::ComboBox; }
 
-// The weather symbol a picture id names, drawn once per id and size; a null
-// pixmap for a text that names no symbol (a caption such as "Ok").
-QPixmap symbol_pixmap(const std::string& id, int size) {
-  static std::map<std::pair<std::string, int>, QPixmap> drawn;
-  const auto key = std::make_pair(id, size);
-  auto it = drawn.find(key);
-  if (it != drawn.end()) return it->second;
-  QPixmap pm;
+// A picture box shows the symbol its picture id names, as large as the box
+// allows; an id with no symbol is shown as its text. The id stays in the tip.
+void show_picture(QLabel* l, const std::string& id) {
+  l->setToolTip(q(id));
   const std::string svg = symbol_svg(id);
-  if (!svg.empty()) {
-    QSvgRenderer r(QByteArray::fromStdString(svg));
-    pm = QPixmap(size, size);
-    pm.fill(Qt::transparent);
-    QPainter p(&pm);
-    r.render(&p);
+  if (svg.empty()) {
+    l->setText(q(id));
+    return;
   }
-  return drawn.emplace(key, pm).first->second;
+  QSvgRenderer renderer(QByteArray::fromStdString(svg));
+  const int side = std::max(16, std::min(l->minimumWidth(), l->minimumHeight()) - 4);
+  const qreal ratio = l->devicePixelRatioF();
+  QPixmap pix(QSize(side, side) * ratio);
+  pix.setDevicePixelRatio(ratio);
+  pix.fill(Qt::transparent);
+  QPainter painter(&pix);
+  renderer.render(&painter, QRectF(0, 0, side, side));
+  l->setPixmap(pix);
 }
 
-// Pictures are the board buttons and the picture boxes: a symbol where the id
-// names one, the id as text otherwise.
-bool shows_picture(const Control& c) { return c.kind == Kind::Image || c.kind == Kind::Button; }
+// The screen's caption where the core gives one, else the form's own title.
+QString title_of(const Screen& s, const QWidget* form) {
+  if (!s.caption.empty()) return q(s.caption);
+  if (!form->windowTitle().isEmpty()) return form->windowTitle();
+  return q(s.name);
+}
+
+// A board's button shows the symbol its picture id names above the code figure
+// ("63" under the symbol of ww63); a caption that names no symbol ("Ok",
+// "Cancel") stays as it is.
+void show_on_button(QAbstractButton* b, const std::string& id) {
+  static std::map<std::string, QIcon> drawn;
+  auto it = drawn.find(id);
+  if (it == drawn.end()) {
+    QIcon icon;
+    const std::string svg = symbol_svg(id);
+    if (!svg.empty()) {
+      QSvgRenderer renderer(QByteArray::fromStdString(svg));
+      QPixmap pix(48, 48);
+      pix.fill(Qt::transparent);
+      QPainter painter(&pix);
+      renderer.render(&painter);
+      icon = QIcon(pix);
+    }
+    it = drawn.emplace(id, icon).first;
+  }
+  b->setIcon(it->second);
+  b->setText(q(it->second.isNull() ? id : symbol_code(id)));
+  b->setToolTip(it->second.isNull() ? QString() : q(id));
+}
 
 }  // namespace
 
@@ -116,7 +144,7 @@ void Binder::bind(Screen& screen, QWidget* form) {
   if (&screen == &ws_.FrmTooltip) flags = Qt::ToolTip;
   auto* w = new QWidget(nullptr, flags);
   w->setObjectName(QStringLiteral("ui_window_") + q(screen.name));
-  w->setWindowTitle(q(screen.caption.empty() ? screen.name : screen.caption));
+  w->setWindowTitle(title_of(screen, form));
   if (&screen == &ws_.FrmERR || &screen == &ws_.FrmTooltip) w->setAttribute(Qt::WA_ShowWithoutActivating);
   auto* layout = new QVBoxLayout(w);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -245,8 +273,16 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       }
       if (syncing_ || ws_.ended()) return false;
       event->ignore();
-      if (win->screen == &ws_.FrmMain) send([&] { ws_.click(ws_.FrmMain.CmdEnd); });
-      else if (win->screen == &ws_.FrmERR) send([&] { ws_.click(ws_.FrmERR.Command1); });
+      if (win->screen == &ws_.FrmMain) {
+        send([&] { ws_.click(ws_.FrmMain.CmdEnd); });
+      } else if (win->screen == &ws_.FrmERR) {
+        send([&] { ws_.click(ws_.FrmERR.Command1); });
+      } else if (win->screen == &ws_.FrmDisplayKashf && !ws_.FrmKashf.visible) {
+        // The browser is the observer's main window while the start screen is
+        // hidden: closing it ends the program as "Exit" does. With a report open
+        // it stays, so that nothing typed is lost.
+        send([&] { ws_.unload(ws_.FrmMain); });
+      }
       return true;
     }
     return false;
@@ -364,23 +400,10 @@ void Binder::sync_control(Bound& b) {
     }
     if (c.max_length > 0 && b.edit->maxLength() != c.max_length) b.edit->setMaxLength(c.max_length);
   } else if (c.text != b.text) {
-    const QPixmap symbol = shows_picture(c) ? symbol_pixmap(c.text, b.button ? 36 : 32) : QPixmap();
-    if (b.page) {
-      b.page->setPlainText(q(c.text));
-    } else if (b.label && !symbol.isNull()) {
-      b.label->setPixmap(symbol);
-      b.label->setAccessibleName(q(c.text));
-    } else if (b.label) {
-      b.label->setText(q(c.text));
-    } else if (b.button && !symbol.isNull()) {
-      // The symbol above its code figure ("63" under the symbol of ww63).
-      b.button->setIcon(QIcon(symbol));
-      b.button->setText(q(symbol_code(c.text)));
-      b.button->setAccessibleName(q(c.text));
-    } else if (b.button) {
-      b.button->setIcon(QIcon());
-      b.button->setText(q(c.text));
-    }
+    if (b.page) b.page->setPlainText(q(c.text));
+    else if (b.label && c.kind == Kind::Image) show_picture(b.label, c.text);
+    else if (b.label) b.label->setText(q(c.text));
+    else if (b.button) show_on_button(b.button, c.text);
     else if (b.group && !c.text.empty()) b.group->setTitle(q(c.text));  // else the form's own title
     b.text = c.text;
   }
@@ -414,7 +437,7 @@ void Binder::sync_window(Window& win) {
   if (shown && !w->isVisible()) {
     w->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     win.modal = modal;
-    const QString title = q(s.caption.empty() ? s.name : s.caption);
+    const QString title = title_of(s, win.form);
     if (w->windowTitle() != title) w->setWindowTitle(title);
     if (!win.sized) {
       // The window takes what its form asks, within the screen it stands on.

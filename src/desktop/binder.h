@@ -18,6 +18,7 @@
 //   label or picture                Workstation::click (double click: dbl_click)
 //   a press on a list               Workstation::click, then a choice: Workstation::choose
 //   a window closed by its frame    the start screen's "Exit"; the message panel's "Ok";
+//                                   the browser, with no report open, ends the program;
 //                                   any other window stays (the core has no cancel there)
 // What comes back after each event (sync): every control's text or caption, list
 // items, shown, enabled, locked (read-only), back and fore colour, option value

@@ -26,11 +26,11 @@ QWidget* plain_widget(const Control& c, QWidget* parent) {
     case Kind::Frame: w = new QGroupBox(parent); break;
     case Kind::Button: w = new QPushButton(parent); break;
     case Kind::Image: {
-      // Until the boards draw their symbols, a picture shows its code text.
+      // The binder draws the symbol of its picture id in it.
       auto* l = new QLabel(parent);
       l->setFrameShape(QFrame::Box);
       l->setAlignment(Qt::AlignCenter);
-      l->setMinimumSize(48, 32);
+      l->setMinimumSize(44, 40);
       w = l;
       break;
     }

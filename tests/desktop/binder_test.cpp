@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -78,6 +79,17 @@ TEST(Binder, TheWidgetsFollowTheCore) {
   EXPECT_TRUE(gust->isVisible());
   EXPECT_TRUE(caption->isVisible());
 
+  // A picture box draws the symbol its id names; an id with no symbol reads as text.
+  auto* picture = qobject_cast<QLabel*>(b.binder->widget(b.k.Image1));
+  ASSERT_NE(picture, nullptr);
+  b.k.Image1.text = "ww63";
+  b.binder->sync();
+  EXPECT_FALSE(picture->pixmap().isNull());
+  b.k.Image1.text = "no-such-picture";
+  b.binder->sync();
+  EXPECT_TRUE(picture->pixmap().isNull());
+  EXPECT_EQ(picture->text(), "no-such-picture");
+
   // A group the hour hides is hidden: the soil temperatures are not read at 06.
   EXPECT_FALSE(b.binder->widget(b.k.Frame5)->isVisible());
   EXPECT_TRUE(b.binder->widget(b.k.Frame9)->isVisible());
@@ -145,6 +157,36 @@ TEST(Binder, AModalScreenIsAModalWindow) {
   hands.click(ws.FrmDisplayKashf.search);
   ASSERT_TRUE(ws.FrmFind.visible);
   EXPECT_EQ(binder.window(ws.FrmFind)->windowModality(), Qt::ApplicationModal);
+}
+
+// The bank chooser runs before the click reaches the start screen's rule, which
+// reads the name it chose; a cancelled chooser leaves the paths as they were.
+TEST(Binder, TheChooserFillsWhatTheClickReads) {
+  struct Case {
+    std::string chosen;  // below the bank root; "" for a cancelled chooser
+    std::string kashf_path;
+  };
+  for (const Case& c : {Case{"VARDOK/BANK/OIII/ACCESS/Kashf.mdb", "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"},
+                        Case{"", "unchanged"}}) {
+    SCOPED_TRACE(c.chosen);
+    test::Station st;
+    Workstation& ws = st.start();
+    ws.FrmMain.txtpathnamebank1.text = "unchanged";
+    ws.FrmMain.Frame1.visible = true;
+    Binder binder(ws);
+    binder.bind_all();
+    binder.sync();
+    test::WidgetDriver hands(binder);
+    hands.click(ws.FrmMain.Option1);
+    ASSERT_TRUE(ws.FrmMain.Option1.value);
+    binder.before_click(ws.FrmMain.cmdOpen, [&] {
+      ws.set_text(ws.FrmMain.CommonDialog1, c.chosen.empty() ? "" : ws.Derive + c.chosen);
+      return true;
+    });
+    hands.click(ws.FrmMain.cmdOpen);
+    EXPECT_EQ(ws.FrmMain.txtpathnamebank1.text, c.kashf_path);
+    EXPECT_EQ(hands.shown_text(ws.FrmMain.txtpathnamebank1).toStdString(), c.kashf_path);
+  }
 }
 
 // The questions carry Qt's own buttons in Persian.

@@ -130,7 +130,7 @@ TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
   auto* image = qobject_cast<QLabel*>(d.binder->widget(k.Image1));
   ASSERT_NE(image, nullptr);
   EXPECT_FALSE(image->pixmap().isNull());
-  EXPECT_EQ(image->accessibleName(), "ww05");
+  EXPECT_EQ(image->toolTip(), "ww05");
 
   // Past weather W1: a click on its picture picks the figure.
   d.hands->click(k.Image2);

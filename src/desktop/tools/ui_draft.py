@@ -39,6 +39,15 @@ WIDE = {}
 # Buttons that show a picture of a board.
 TILES = set()
 
+# Properties a few widgets need beyond their kind's.
+EXTRA = {
+    ('FrmERR', 'Label1'): [('wordWrap', '<bool>true</bool>'), ('minimumWidth', '<number>320</number>'),
+                           ('minimumHeight', '<number>48</number>')],
+    ('FrmKashf', 'Text44'): [('minimumWidth', '<number>300</number>')],
+    ('FrmDisplayKashf', 'Text44'): [('minimumWidth', '<number>300</number>')],
+    ('FrmEntezar', 'Label1'): [('minimumWidth', '<number>260</number>'), ('alignment', '<set>Qt::AlignCenter</set>')],
+}
+
 # Captions of the entry boxes, shared by the entry screen and the browser.
 CAPTIONS = {
     'Text1': 'ساعت UTC', 'txt1': 'ساعت و دقیقه', 'Combo5': 'نوع گزارش', 'Combo7': 'دیده‌بان کشیک',
@@ -122,13 +131,14 @@ class Form:
             cls = 'QLabel'
             props.append(('frameShape', '<enum>QFrame::Box</enum>'))
             props.append(('alignment', '<set>Qt::AlignCenter</set>'))
-            props.append(('minimumSize', '<size><width>56</width><height>28</height></size>'))
+            props.append(('minimumSize', '<size><width>44</width><height>40</height></size>'))
             props.append(('text', '<string>%s</string>' % escape(c['caption'])))
         else:
             cls = 'QRadioButton'
             props.append(('text', '<string>%s</string>' % escape(c['caption'])))
         if name in LTR:
             props.append(('layoutDirection', '<enum>Qt::LeftToRight</enum>'))
+        props += EXTRA.get((self.name, name), [])
         return cls, props
 
     def emit_widget(self, cls, name, props, ind, inner=''):
@@ -353,7 +363,7 @@ def register_rows(f, browser):
 def kashf(table):
     global LTR, WIDE
     LTR = {'txtSYN', 'TXTMET', 'TXTSPE', 'Text48', 'Text44'}
-    WIDE = {'Text44': 330, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'Combo7': 190,
+    WIDE = {'Text44': 400, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'Combo7': 190,
             'Combo5': 120, 'Cmb_NLC': 110, 'Combo1': 80, 'Combo2': 80, 'Combo3': 80, 'Combo4': 80,
             'Combo6': 80, 'Combo9': 80, 'CMbMAX': 70, 'CMbMIN': 70}
     f = Form('FrmKashf', table, 'ثبت دیده‌بانی')
@@ -366,7 +376,7 @@ def browser(table):
     global LTR, WIDE, MULTILINE
     MULTILINE = set()
     LTR = {'txtSYN', 'TXTMET', 'TXTSPE', 'TXTSCDATA', 'Text48', 'Text44'}
-    WIDE = {'Text44': 330, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'TXTSCDATA': 1100,
+    WIDE = {'Text44': 400, 'Text74': 900, 'txtSYN': 1100, 'TXTMET': 1100, 'TXTSPE': 1100, 'TXTSCDATA': 1100,
             'TXTSEL': 100, 'TXTNAM': 190}
     for n in ('Text45', 'Text43', 'Text42', 'Text46', 'Text47', 'Text54'):
         WIDE[n] = 80
@@ -421,7 +431,7 @@ def pol(table):
     global LTR, MULTILINE, WIDE
     LTR, MULTILINE, WIDE = {'Text'}, {'Text'}, {}
     f = Form('FrmPol', table, 'رونوشت')
-    return f, [Group('', [['*Text']]),
+    return f, [Box(['Text'], stretch=False),
                Box(['Command2', 'Command3', 'Command4', 'Command5', 'Command1'])]
 
 
