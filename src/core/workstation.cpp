@@ -345,6 +345,11 @@ void Workstation::key_edit(Control& c, std::string text, std::string key) {
       settle();
       if (focused() != &c) return;
     }
+    // Persian and Arabic-Indic figures come in as ASCII, as they do when typed.
+    std::string typed;
+    for (const std::string& ch : characters(text)) typed += ch;
+    text = std::move(typed);
+    key = keyboard_char(key);
     const bool fits = c.max_length == 0 || len(text) <= static_cast<std::size_t>(c.max_length);
     if (!c.locked && fits && text != c.text) {
       c.text = std::move(text);
