@@ -1,6 +1,6 @@
 # obsdesk: the two everyday commands, and a few more.
 #   make run            build and open the desktop on the demo bank (headless: the demo session)
-#   make screenshots    every screen of the observer's day as PNG under build/screenshots/
+#   make screenshots    every screen of the program as PNG under build/screenshots/
 #   make test           build with warnings as errors, run every test and the fuzz run
 #   make test-sanitize  the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   make bench          build and run the benchmarks

@@ -154,6 +154,9 @@ bool Runner::execute(const std::vector<std::string>& w, std::string* failure) {
   } else if (cmd == "dblclick") {
     need(w, 2, 2, "dblclick CONTROL");
     require_started().dbl_click(control(w[1]));
+  } else if (cmd == "point") {
+    need(w, 2, 2, "point CONTROL");
+    require_started().point_at(control(w[1]));
   } else if (cmd == "type") {
     need(w, 3, 3, "type CONTROL TEXT");
     require_started().type(control(w[1]), w[2]);

@@ -117,6 +117,29 @@ void cmdOpen_click(Workstation& ws) {
   m.Frame1.visible = false;
 }
 
+// The colour chooser leaves the colour it returns in CommonDialog1 as a decimal
+// colour number (empty: cancelled). The colour is kept in TxtBackColor and its
+// table, so that it comes back at the next start, and goes at once to every frame
+// of the start screen, the entry screen and the browser.
+void LabColor_click(Workstation& ws) {
+  FrmMain& m = ws.FrmMain;
+  const std::string chosen = trim(m.CommonDialog1.text);
+  if (chosen.empty()) return;
+  ws.set(m.TxtBackColor, std::to_string(parse_colour(chosen)));
+  Recordset& rs = m.BackColor.rs;
+  try {
+    if (rs.is_open() && !rs.eof() && !rs.bof()) {
+      rs.edit();
+      rs.set("N_BackColor", m.TxtBackColor.text);
+      rs.update();
+    }
+  } catch (const std::exception& e) {
+    rs.cancel_update();
+    ws.error(e.what());
+  }
+  apply_colours(ws);
+}
+
 }  // namespace
 
 std::string station_heading(Workstation& ws) {
@@ -287,6 +310,7 @@ void wire_program(Workstation& ws) {
   });
   m.Label43.on(Event::Click, [](Workstation& w) { w.show(w.frmAbout); });
   m.cmdOpen.on(Event::Click, cmdOpen_click);
+  m.LabColor.on(Event::Click, LabColor_click);
 
   ws.FrmEntezar.on(ScreenEvent::Activate, [](Workstation& w) {
     w.post([](Workstation& w2) {

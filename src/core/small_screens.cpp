@@ -1,5 +1,7 @@
 #include "core/small_screens.h"
 
+#include "core/help_text.h"
+
 namespace obsdesk {
 
 frmAbout::frmAbout() : Screen("frmAbout") {
@@ -21,6 +23,7 @@ FrmERR::FrmERR() : Screen("FrmERR") {
 
 FrmHelp::FrmHelp() : Screen("FrmHelp") {
   caption = "Help";
+  Text1.text = kHelpText;
   Text1.locked = true;
 }
 

@@ -218,6 +218,13 @@ void Workstation::hover(Control& c) {
   fire(c, Event::MouseMove);
 }
 
+void Workstation::point_at(Control& c) {
+  input([&] {
+    if (!c.reachable()) return;
+    hover(c);
+  });
+}
+
 void Workstation::require_reachable(Control& c) const {
   if (!c.reachable()) throw UsageError(c.full_name() + " cannot be reached now");
 }
@@ -436,7 +443,10 @@ void Workstation::post(Handler h) { posted_.push_back(std::move(h)); }
 
 void Workstation::end_program() {
   ended_ = true;
-  for (Screen* s : screens_) s->visible = false;
+  // The message panel stays: what it says as the program ends (a changed profile
+  // comes into force at the next start) is the last thing the observer reads.
+  for (Screen* s : screens_)
+    if (s != &FrmERR) s->visible = false;
   z_order_.clear();
   active_screen_ = nullptr;
   focus_queue_.clear();

@@ -158,6 +158,9 @@ class Workstation {
   void click(Control& c);
   void dbl_click(Control& c);
   void focus_now(Control& c);
+  // The pointer moves over a control (a picture of a board shows its hint); a
+  // control that cannot be reached now is passed over.
+  void point_at(Control& c);
   void press_enter();
   void key_up(Control& c, std::string key);
   // One key typed into a box as an editing widget sees it: text is what the box

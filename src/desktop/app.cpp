@@ -1,6 +1,7 @@
 #include "desktop/app.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QLibraryInfo>
@@ -34,6 +35,7 @@ Desktop::Desktop(std::filesystem::path bank_root, Clock& clock) {
   binder_->bind_all();
   asker_.before_box = [this] { binder_->sync(); };
   install_bank_chooser(*binder_);
+  install_colour_chooser(*binder_);
 }
 
 Desktop::~Desktop() = default;
@@ -61,6 +63,20 @@ void install_bank_chooser(Binder& binder) {
                                                       QStringLiteral("*.mdb"));
     // An empty name is a cancelled chooser; the rule then leaves the paths alone.
     ws.set_text(ws.FrmMain.CommonDialog1, name.toStdString());
+    return true;
+  });
+}
+
+void install_colour_chooser(Binder& binder) {
+  Workstation& ws = binder.workstation();
+  binder.before_click(ws.FrmMain.LabColor, [&binder, &ws] {
+    const long now = parse_colour(ws.FrmMain.TxtBackColor.text);
+    const QColor start(static_cast<int>(now & 0xFF), static_cast<int>((now >> 8) & 0xFF),
+                       static_cast<int>((now >> 16) & 0xFF));
+    const QColor chosen = QColorDialog::getColor(start, binder.window(ws.FrmMain));
+    // The rule reads the colour number 0x00BBGGRR; an empty text is a cancelled chooser.
+    const long number = chosen.isValid() ? chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16) : -1;
+    ws.set_text(ws.FrmMain.CommonDialog1, number < 0 ? std::string() : std::to_string(number));
     return true;
   });
 }

@@ -43,4 +43,8 @@ class Desktop {
 // fills the name its rule reads, before the click reaches the core.
 void install_bank_chooser(Binder& binder);
 
+// The colour chooser of the start screen: a Qt colour dialog that leaves the
+// chosen colour number where the colour rule reads it, before the click.
+void install_colour_chooser(Binder& binder);
+
 }  // namespace obsdesk

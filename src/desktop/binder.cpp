@@ -4,18 +4,20 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCursor>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSvgRenderer>
-#include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <set>
 
@@ -63,6 +65,30 @@ QString title_of(const Screen& s, const QWidget* form) {
   if (!s.caption.empty()) return q(s.caption);
   if (!form->windowTitle().isEmpty()) return form->windowTitle();
   return q(s.name);
+}
+
+// A board's button shows the symbol its picture id names above the code figure
+// ("63" under the symbol of ww63); a caption that names no symbol ("Ok",
+// "Cancel") stays as it is.
+void show_on_button(QAbstractButton* b, const std::string& id) {
+  static std::map<std::string, QIcon> drawn;
+  auto it = drawn.find(id);
+  if (it == drawn.end()) {
+    QIcon icon;
+    const std::string svg = symbol_svg(id);
+    if (!svg.empty()) {
+      QSvgRenderer renderer(QByteArray::fromStdString(svg));
+      QPixmap pix(48, 48);
+      pix.fill(Qt::transparent);
+      QPainter painter(&pix);
+      renderer.render(&painter);
+      icon = QIcon(pix);
+    }
+    it = drawn.emplace(id, icon).first;
+  }
+  b->setIcon(it->second);
+  b->setText(q(it->second.isNull() ? id : symbol_code(id)));
+  b->setToolTip(it->second.isNull() ? QString() : q(id));
 }
 
 }  // namespace
@@ -115,10 +141,11 @@ void Binder::bind(Screen& screen, QWidget* form) {
   win->form = form;
   Qt::WindowFlags flags = Qt::Window;
   if (&screen == &ws_.FrmERR) flags = Qt::Tool | Qt::WindowStaysOnTopHint;
+  if (&screen == &ws_.FrmTooltip) flags = Qt::ToolTip;
   auto* w = new QWidget(nullptr, flags);
   w->setObjectName(QStringLiteral("ui_window_") + q(screen.name));
   w->setWindowTitle(title_of(screen, form));
-  if (&screen == &ws_.FrmERR) w->setAttribute(Qt::WA_ShowWithoutActivating);
+  if (&screen == &ws_.FrmERR || &screen == &ws_.FrmTooltip) w->setAttribute(Qt::WA_ShowWithoutActivating);
   auto* layout = new QVBoxLayout(w);
   layout->setContentsMargins(0, 0, 0, 0);
   auto* scroll = new QScrollArea(w);
@@ -188,14 +215,7 @@ void Binder::tie(Control& c, QWidget* w) {
   } else if (auto* ab = qobject_cast<QAbstractButton*>(w)) {
     b->button = ab;
     ab->setFocusPolicy(Qt::ClickFocus);
-    connect(ab, &QAbstractButton::clicked, this, [this, raw] {
-      auto hook = before_click_.find(raw->c);
-      if (hook != before_click_.end() && !hook->second()) {
-        sync();
-        return;
-      }
-      send([&] { ws_.click(*raw->c); });
-    });
+    connect(ab, &QAbstractButton::clicked, this, [this, raw] { click(*raw); });
   } else if (auto* l = qobject_cast<QLabel*>(w)) {
     b->label = l;
   } else if (auto* g = qobject_cast<QGroupBox*>(w)) {
@@ -205,6 +225,28 @@ void Binder::tie(Control& c, QWidget* w) {
 }
 
 void Binder::before_click(const Control& c, std::function<bool()> hook) { before_click_[&c] = std::move(hook); }
+
+void Binder::click(Bound& b) {
+  if (ws_.ended()) {
+    // The message the program ended with has been read: the last window goes.
+    if (&b.c->screen == &ws_.FrmERR) {
+      ended_message_read_ = true;
+      sync();
+    }
+    return;
+  }
+  auto hook = before_click_.find(b.c);
+  if (hook != before_click_.end() && !hook->second()) {
+    sync();
+    return;
+  }
+  send([&] { ws_.click(*b.c); });
+}
+
+bool Binder::showing(const Screen& s) const {
+  if (!s.visible) return false;
+  return !ws_.ended() || (&s == &ws_.FrmERR && !ended_message_read_);
+}
 
 template <typename F>
 void Binder::send(F&& f) {
@@ -225,6 +267,10 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Close && !by_widget_.count(watched)) {
     for (auto& win : windows_) {
       if (win->window != watched) continue;
+      if (ws_.ended() && win->screen == &ws_.FrmERR && !ended_message_read_) {
+        ended_message_read_ = true;
+        QTimer::singleShot(0, this, [this] { sync(); });
+      }
       if (syncing_ || ws_.ended()) return false;
       event->ignore();
       if (win->screen == &ws_.FrmMain) {
@@ -268,13 +314,17 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
       send([&] { ws_.focus_now(*b.c); });
       return false;
     }
+    case QEvent::Enter:
+      // The pointer over a control that answers it (a board's picture shows its hint).
+      if (b.c->handler(Event::MouseMove) && !syncing_ && !ws_.ended()) send([&] { ws_.point_at(*b.c); });
+      return false;
     case QEvent::MouseButtonPress:
       if (b.combo && watched == b.combo) send([&] { ws_.click(*b.c); });
       return false;
     case QEvent::MouseButtonRelease:
       if (b.label) {
         if (std::exchange(b.skip_release, false)) return true;
-        send([&] { ws_.click(*b.c); });
+        click(b);
         return true;
       }
       return false;
@@ -294,14 +344,14 @@ void Binder::sync() {
   if (syncing_) return;
   syncing_ = true;
   for (auto& win : windows_) {
-    const bool shown = win->screen->visible && !ws_.ended();
+    const bool shown = showing(*win->screen);
     if (!shown && !(win->window && win->window->isVisible())) continue;
     for (Bound* b : win->bound) sync_control(*b);
   }
   for (auto& win : windows_) sync_window(*win);
   sync_focus();
   syncing_ = false;
-  if (ws_.ended() && on_ended) on_ended();
+  if (ws_.ended() && on_ended && !showing(ws_.FrmERR)) on_ended();
 }
 
 void Binder::refresh(const Screen& s) {
@@ -353,7 +403,7 @@ void Binder::sync_control(Bound& b) {
     if (b.page) b.page->setPlainText(q(c.text));
     else if (b.label && c.kind == Kind::Image) show_picture(b.label, c.text);
     else if (b.label) b.label->setText(q(c.text));
-    else if (b.button) b.button->setText(q(c.text));
+    else if (b.button) show_on_button(b.button, c.text);
     else if (b.group && !c.text.empty()) b.group->setTitle(q(c.text));  // else the form's own title
     b.text = c.text;
   }
@@ -381,7 +431,7 @@ void Binder::sync_window(Window& win) {
   QWidget* w = win.window;
   if (w == nullptr) return;
   const Screen& s = *win.screen;
-  const bool shown = s.visible && !ws_.ended();
+  const bool shown = showing(s);
   const bool modal = s.modal();
   if (shown && w->isVisible() && modal != win.modal) w->hide();
   if (shown && !w->isVisible()) {
@@ -396,7 +446,11 @@ void Binder::sync_window(Window& win) {
       w->resize(want);
       win.sized = true;
     }
+    if (&s == &ws_.FrmTooltip) w->move(QCursor::pos() + QPoint(12, 16));  // beside the pointer
     w->show();
+  } else if (shown && &s == &ws_.FrmTooltip) {
+    w->adjustSize();
+    w->move(QCursor::pos() + QPoint(12, 16));
   } else if (!shown && w->isVisible()) {
     w->hide();
   }

@@ -96,6 +96,11 @@ class Binder : public QObject {
   void sync_control(Bound& b);
   void sync_window(Window& win);
   void sync_focus();
+  // A click on a button or label: its desktop service first, then the core.
+  void click(Bound& b);
+  // Whether a screen's window is up: as the core says, and after the program has
+  // ended only the message panel, until its message is read.
+  bool showing(const Screen& s) const;
 
   Workstation& ws_;
   std::vector<std::unique_ptr<Window>> windows_;
@@ -104,6 +109,7 @@ class Binder : public QObject {
   std::map<const Control*, std::function<bool()>> before_click_;
   std::string last_key_;
   bool syncing_ = false;
+  bool ended_message_read_ = false;
   int sending_ = 0;
 };
 

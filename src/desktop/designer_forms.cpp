@@ -10,6 +10,22 @@
 #include "ui_FrmKashf.h"
 #include "ui_FrmCode.h"
 #include "ui_FrmPol.h"
+#include "ui_FrmHelp.h"
+#include "ui_FrmOption.h"
+#include "ui_FrmSelectStation.h"
+#include "ui_FrmFind.h"
+#include "ui_FrmWP.h"
+#include "ui_FrmNTF.h"
+#include "ui_FrmFeali.h"
+#include "ui_FrmGozashteh.h"
+#include "ui_Frmgozashteh1.h"
+#include "ui_FrmGozashteh2.h"
+#include "ui_FrmBCO.h"
+#include "ui_FrmBCOY.h"
+#include "ui_FrmBCOBCOY.h"
+#include "ui_FrmZamin.h"
+#include "ui_FrmIRIX.h"
+#include "ui_FrmTooltip.h"
 
 namespace obsdesk {
 
@@ -37,6 +53,22 @@ const std::map<std::string, FormMaker>& designer_forms() {
       {"FrmKashf", build<Ui::FrmKashf>},
       {"FrmCode", build<Ui::FrmCode>},
       {"FrmPol", build<Ui::FrmPol>},
+      {"FrmHelp", build<Ui::FrmHelp>},
+      {"FrmOption", build<Ui::FrmOption>},
+      {"FrmSelectStation", build<Ui::FrmSelectStation>},
+      {"FrmFind", build<Ui::FrmFind>},
+      {"FrmWP", build<Ui::FrmWP>},
+      {"FrmNTF", build<Ui::FrmNTF>},
+      {"FrmFeali", build<Ui::FrmFeali>},
+      {"FrmGozashteh", build<Ui::FrmGozashteh>},
+      {"Frmgozashteh1", build<Ui::Frmgozashteh1>},
+      {"FrmGozashteh2", build<Ui::FrmGozashteh2>},
+      {"FrmBCO", build<Ui::FrmBCO>},
+      {"FrmBCOY", build<Ui::FrmBCOY>},
+      {"FrmBCOBCOY", build<Ui::FrmBCOBCOY>},
+      {"FrmZamin", build<Ui::FrmZamin>},
+      {"FrmIRIX", build<Ui::FrmIRIX>},
+      {"FrmTooltip", build<Ui::FrmTooltip>},
   };
   return forms;
 }

@@ -126,10 +126,11 @@ void give_new_station_its_bank(Workstation& ws) {
 
 // Every empty observer box gets the duty observer, so that the observer list of
 // the entry screen never offers a blank line; the program then ends, and the
-// profile comes into force at the next start.
+// profile comes into force at the next start. The message panel tells the
+// observer so, and stays on the screen as the program ends.
 void UPDATE_click(Workstation& ws) {
   command(ws, [](Workstation& w, FrmOption& o) {
-    w.message(kRestartToApply);
+    w.error(kRestartToApply);
     for (Control* box : Controls{&o.Text5, &o.Text6, &o.Text7, &o.Text8, &o.Text9, &o.Text10, &o.Text11, &o.Text12})
       if (box->text.empty()) w.set(*box, kDutyObserver);
     if (!o.adding) o.editing = !(o.Station.rs.eof() || o.Station.rs.bof());

@@ -178,5 +178,26 @@ TEST(Colours, TheFormColourIsReadInBothSpellings) {
   EXPECT_EQ(parse_colour(""), 0xC0C0C0);
 }
 
+// The colour the chooser returns goes to the frames of the start screen, the
+// entry screen and the browser at once, and is there again at the next start; a
+// cancelled chooser changes nothing.
+TEST(Colours, AChosenColourIsAppliedAndKeptForTheNextStart) {
+  test::Station s;
+  Workstation& ws = s.start();
+  const std::string before = ws.FrmMain.TxtBackColor.text;
+  ws.set_text(ws.FrmMain.CommonDialog1, "");
+  ws.click(ws.FrmMain.LabColor);
+  EXPECT_EQ(ws.FrmMain.TxtBackColor.text, before);
+  ws.set_text(ws.FrmMain.CommonDialog1, "8421631");  // 0x8080FF
+  ws.click(ws.FrmMain.LabColor);
+  EXPECT_EQ(ws.FrmMain.TxtBackColor.text, "8421631");
+  EXPECT_EQ(ws.FrmMain.Frame3.back_color, 8421631);
+  EXPECT_EQ(ws.FrmKashf.Frameh1.back_color, 8421631);
+  Workstation& again = s.restart();
+  EXPECT_EQ(again.FrmMain.TxtBackColor.text, "8421631");
+  EXPECT_EQ(again.FrmMain.Frame3.back_color, 8421631);
+  EXPECT_EQ(again.FrmDisplayKashf.Frame1.back_color, 8421631);
+}
+
 }  // namespace
 }  // namespace obsdesk

@@ -1,4 +1,5 @@
 #include <QWidget>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -31,10 +32,15 @@ TEST(Forms, EachControlHasOneWidgetAndEachNamedWidgetAControl) {
   }
 }
 
-// A Designer form registered under a name no screen has would never be shown.
-TEST(Forms, EachDesignerFormBelongsToAScreen) {
+// Every screen has a Designer form of its own, and a form registered under a
+// name no screen has would never be shown.
+TEST(Forms, EachScreenHasItsDesignerFormAndEachFormAScreen) {
   test::Station st;
-  for (const std::string& name : designer_form_names()) EXPECT_NE(st.ws->screen(name), nullptr) << name;
+  const std::vector<std::string> names = designer_form_names();
+  for (const std::string& name : names) EXPECT_NE(st.ws->screen(name), nullptr) << name;
+  for (Screen* s : st.ws->screens())
+    EXPECT_NE(std::find(names.begin(), names.end(), s->name), names.end()) << s->name << " has no Designer form";
+  EXPECT_EQ(st.ws->screens().size(), 24u);
 }
 
 }  // namespace

@@ -200,11 +200,16 @@ TEST(StationSettings, TheBarometerOptionsWriteTheirPair) {
   EXPECT_FALSE(o.OptPsang.value);
 }
 
-// Update fills the empty observers of the row and keeps the names it has.
+// Update fills the empty observers of the row and keeps the names it has; the
+// program ends with its reason on the message panel, the one screen left up.
 TEST(StationSettings, UpdateFillsOnlyTheEmptyObservers) {
   Station s;
   Workstation& ws = open_settings(s);
   menu(ws, ws.FrmOption.UPDATE);
+  EXPECT_TRUE(ws.ended());
+  EXPECT_TRUE(ws.FrmERR.visible);
+  EXPECT_EQ(ws.FrmERR.Label1.text, kRestartToApply);
+  EXPECT_FALSE(ws.FrmOption.visible);
   const std::pair<const char*, const char*> observers[] = {
       {"OBSERVER1", "احمد رضايي"}, {"OBSERVER4", "زهرا حسيني"}, {"OBSERVER5", kDutyObserver}, {"Observer8", kDutyObserver}};
   for (const auto& [column, name] : observers) EXPECT_EQ(column_of_row(s, 1, column), name) << column;

@@ -36,6 +36,8 @@ def read_names(path):
 LTR = set()
 MULTILINE = set()
 WIDE = {}
+# Buttons that show a picture of a board.
+TILES = set()
 
 # Properties a few widgets need beyond their kind's.
 EXTRA = {
@@ -122,6 +124,9 @@ class Form:
         elif k == 'Button':
             cls = 'QPushButton'
             props.append(('text', '<string>%s</string>' % escape(c['caption'])))
+            if name in TILES:
+                props.append(('minimumSize', '<size><width>64</width><height>56</height></size>'))
+                props.append(('iconSize', '<size><width>36</width><height>36</height></size>'))
         elif k == 'Image':
             cls = 'QLabel'
             props.append(('frameShape', '<enum>QFrame::Box</enum>'))
@@ -183,6 +188,13 @@ class Form:
                     out.append(pad + ' </item>')
                     col += 1
                     cell = name
+                if cell.startswith('#'):
+                    out.append(pad + ' <item row="%d" column="%d">' % (r, col))
+                    out.append(self.emit_widget('QLabel', self.uid('head'),
+                                                [('text', '<string>%s</string>' % escape(cell[1:]))], ind + 2))
+                    out.append(pad + ' </item>')
+                    col += 1
+                    continue
                 span = ''
                 if cell.startswith('*'):
                     cell, span = cell[1:], ' colspan="%d"' % 20
@@ -406,10 +418,10 @@ def main_screen(table):
     return f, [title, Box([commands, Box([station, bank], vertical=True)])]
 
 
-def simple(name, title, rows):
+def simple(name, title, rows, multiline=()):
     def make(table):
-        global LTR, WIDE
-        LTR, WIDE = set(), {}
+        global LTR, WIDE, TILES, MULTILINE
+        LTR, WIDE, TILES, MULTILINE = set(), {'Combo1': 300, 'Txtfind': 300}, set(), set(multiline)
         f = Form(name, table, title)
         return f, [Box([Group('', rows)], stretch=False)]
     return make
@@ -461,6 +473,69 @@ def auto(name, title, columns, ltr_all=False, buttons=()):
     return make
 
 
+def option(table):
+    global LTR, WIDE, TILES, MULTILINE
+    TILES, MULTILINE = set(), set()
+    LTR = {'NUMCOD', 'TXTCOD'} | {n for n in table if n.startswith('txtm') or n.startswith('TXT') or n in ('txtloge', 'txtpi')}
+    WIDE = {'Text1': 260, 'Combo1': 170, 'Combo2': 330}
+    for i in range(5, 13):
+        WIDE['Text%d' % i] = 200
+    f = Form('FrmOption', table, 'مشخصات ایستگاه')
+    menu = Box(['Label45', Group('', [['nnew', 'savee', 'EDITT', 'UPDATE', 'firstt', 'LASTt', 'nextt', 'back',
+                                       'search', 'Closee']], name='Frame4')])
+    station = Group('ایستگاه', [
+        [('نام ایستگاه', 'Text1'), ('ID', 'Text21')],
+        [('کد بین‌المللی سینوپ', 'NUMCOD'), ('کد بین‌المللی متار', 'TXTCOD')],
+        [('عرض جغرافیایی (درجه)', 'txtq1'), ('دقیقه', 'txtq2')],
+        [('طول جغرافیایی (درجه)', 'Text3'), ('دقیقه', 'Text2')],
+        [('ارتفاع (m)', 'Txth'), ('بلندترین مانع در شعاع ۲۵ مایلی', 'txthmin')],
+        [('خطای بارومتر', 'txtci'), ('ضریب تابش', 'txttabesh')],
+        [('مدت فعالیت ایستگاه', 'Combo1')], [('نوع تشت تبخیر', 'Combo2')],
+        ['OptPnegar', 'txtPnegar', 'OptPsang', 'txtPsang'],
+    ])
+    heads = [None, ('@ui_h', 'ui_x')] if False else []
+    rows = [['', 'مینیمم مطلق', 'مینیمم', 'ماکزیمم', 'ماکزیمم مطلق']]
+    names = ['T Dry', 'T Wet', 'Rain', 'Pressure', 'T Earth 5 cm', 'T Earth 10-30 cm', 'T Earth 30-100 cm', 'wind',
+             'Avepora']
+    limit_rows = []
+    for i, cap in enumerate(names, 1):
+        limit_rows.append([(cap, 'txtminm%d' % i), 'txtmin%d' % i, 'txtmax%d' % i, 'txtmaxm%d' % i])
+    limits = Group('حدود کنترل: مینیمم مطلق، مینیمم، ماکزیمم، ماکزیمم مطلق', limit_rows)
+    observers = Group('اسامی دیده‌بانان', [['Text5', 'Text9'], ['Text6', 'Text10'], ['Text7', 'Text11'],
+                                          ['Text8', 'Text12']])
+    consts = Group('ثابت‌های محاسبات', [[('gn=', 'TXTGH'), ('g45=', 'TXTg45'), ('g=', 'TXTG')],
+                                        [('R=', 'TXTR'), ('e=', 'TXTe'), ('a=', 'TXTA')],
+                                        [('log(e)=', 'txtloge'), ('pi=', 'txtpi'), ('Pn=', 'TXTPN')]], name='Frame2')
+    return f, [menu, Box([station, Box([limits, observers], vertical=True)]), consts]
+
+
+def board(name, title, columns, extra=(), tiles=None):
+    def make(table):
+        global LTR, WIDE, TILES, MULTILINE
+        LTR, WIDE, MULTILINE = {'Text1'}, {}, set()
+        pics = [n for n, c in table.items() if c['kind'] == 'Button' and n != 'Command1']
+        TILES = set(pics)
+        f = Form(name, table, title)
+        grid = [pics[i:i + columns] for i in range(0, len(pics), columns)]
+        body = [Group('', grid)]
+        foot = [Group('', [[('کد', 'Text1')]])] if 'Text1' in table else []
+        foot += list(extra) + ['Command1']
+        body.append(Box(foot))
+        return f, body
+    return make
+
+
+def ntf(table):
+    global LTR, WIDE, TILES, MULTILINE
+    LTR, WIDE, TILES, MULTILINE = {'Text1'}, {}, set(), set()
+    f = Form('FrmNTF', table, 'مشخصه تغییرات فشار')
+    traces = [n for n in table if n.startswith('NTF')]
+    labels = [n for n in table if n.startswith('Label')]
+    rows = [[t for t in traces[i:i + 5]] for i in range(0, len(traces), 5)]
+    return f, [Group('', rows), Group('', [labels[i:i + 5] for i in range(0, len(labels), 5)]),
+               Box([Group('', [[('مشخصه', 'Text1')]]), 'Command1'])]
+
+
 SCREENS = {
     'FrmKashf': lambda t: fixcaps(kashf(t)),
     'FrmMain': main_screen,
@@ -469,6 +544,31 @@ SCREENS = {
     'FrmERR': simple('FrmERR', 'پیام', [['*Label1'], ['Command1', 'Command2']]),
     'FrmPol': pol,
     'FrmDisplayKashf': lambda t: fixcaps(browser(t)),
+    'FrmHelp': simple('FrmHelp', 'راهنما', [['*Text1'], ['Command1']], multiline=('Text1',)),
+    'FrmOption': option,
+    'FrmSelectStation': simple('FrmSelectStation', 'انتخاب ایستگاه', [[('ایستگاه', 'Combo1')], [('نام', 'Txtfind')]]),
+    'FrmFind': simple('FrmFind', 'جستجو', [
+        [('روز', 'TXTDAYmi'), ('ماه میلادی', 'ComMI'), ('سال', 'TXTYEARmi')],
+        [('روز', 'TXTDAYsh'), ('ماه شمسی', 'ComSH'), ('سال', 'TXTYEARsh')],
+        [('تاریخ', 'DTPicker1'), ('ساعت UTC', 'txttime'), ('روز هفته', 'TXTDAYWEEK')],
+        [('عبارت جستجو', 'Txtfind'), 'CmdFind']]),
+    'FrmWP': simple('FrmWP', 'ساعت‌های گذشته', [
+        ['#UTC'] + ['#%02d' % h for h in range(0, 24, 3)],
+        ['#دما'] + ['Text%d' % i for i in range(1, 9)],
+        ['#بارش سه ساعته'] + ['Text%d' % i for i in range(9, 17)],
+        ['#فشار ایستگاه'] + ['Text%d' % i for i in range(17, 25)],
+        [('ساعت آخرین گزارش اصلی', 'Text25'), 'Command1']]),
+    'FrmNTF': ntf,
+    'FrmFeali': board('FrmFeali', 'هوای حاضر', 10),
+    'FrmGozashteh': board('FrmGozashteh', 'هوای ساعت گذشته', 10),
+    'Frmgozashteh1': board('Frmgozashteh1', 'هوای گذشته W1', 5),
+    'FrmGozashteh2': board('FrmGozashteh2', 'هوای گذشته W2', 5),
+    'FrmBCO': board('FrmBCO', 'حروف آسمان', 4),
+    'FrmBCOY': board('FrmBCOY', 'حروف آسمان', 4),
+    'FrmBCOBCOY': board('FrmBCOBCOY', 'حروف آسمان', 4),
+    'FrmZamin': board('FrmZamin', 'حالت سطح زمین', 10),
+    'FrmIRIX': simple('FrmIRIX', 'iR iX', [[('iR', 'TXTIR'), 'Combo1'], [('iX', 'TXTIX'), 'Combo3'], ['Command1']]),
+    'FrmTooltip': simple('FrmTooltip', '', [['Lab1']]),
     'FrmCode': auto('FrmCode', 'صفحه کد', 10, ltr_all=True, buttons=('Command1', 'Command2', 'Command3')),
 }
 
