@@ -26,6 +26,7 @@
 #include "ui_FrmZamin.h"
 #include "ui_FrmIRIX.h"
 #include "ui_FrmTooltip.h"
+#include "ui_FrmBUFR.h"
 
 namespace obsdesk {
 
@@ -68,6 +69,7 @@ const std::map<std::string, FormMaker>& designer_forms() {
       {"FrmBCOBCOY", build<Ui::FrmBCOBCOY>},
       {"FrmZamin", build<Ui::FrmZamin>},
       {"FrmIRIX", build<Ui::FrmIRIX>},
+      {"FrmBUFR", build<Ui::FrmBUFR>},
       {"FrmTooltip", build<Ui::FrmTooltip>},
   };
   return forms;

@@ -40,7 +40,7 @@ TEST(Forms, EachScreenHasItsDesignerFormAndEachFormAScreen) {
   for (const std::string& name : names) EXPECT_NE(st.ws->screen(name), nullptr) << name;
   for (Screen* s : st.ws->screens())
     EXPECT_NE(std::find(names.begin(), names.end(), s->name), names.end()) << s->name << " has no Designer form";
-  EXPECT_EQ(st.ws->screens().size(), 24u);
+  EXPECT_EQ(st.ws->screens().size(), 25u);
 }
 
 }  // namespace
