@@ -93,6 +93,17 @@ void show_on_button(QAbstractButton* b, const std::string& id) {
 
 }  // namespace
 
+// Whether a text holds a letter written right to left (Arabic script, in UTF-8
+// lead bytes 0xD8 to 0xDB, or the presentation forms from U+FB50).
+static bool has_right_to_left_letter(const std::string& text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto b = static_cast<unsigned char>(text[i]);
+    if (b >= 0xD8 && b <= 0xDB) return true;
+    if (b == 0xEF && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) >= 0xAD) return true;
+  }
+  return false;
+}
+
 struct Binder::Bound {
   Control* c = nullptr;
   QWidget* w = nullptr;
@@ -104,6 +115,7 @@ struct Binder::Bound {
   QGroupBox* group = nullptr;
   std::vector<QWidget*> captions;   // ui_cap_ labels whose buddy this is
   bool is_mask = false;
+  bool follows_text = false;        // a right-to-left box that turns to its text's direction
   bool skip_release = false;        // the release that ends a double click
   // What was last put on the widget.
   std::string text;
@@ -189,6 +201,7 @@ void Binder::tie(Control& c, QWidget* w) {
   w->installEventFilter(this);
   if (auto* e = qobject_cast<QLineEdit*>(w)) {
     b->edit = e;
+    b->follows_text = e->layoutDirection() == Qt::RightToLeft;
     connect(e, &QLineEdit::textEdited, this, [this, raw](const QString& t) {
       const std::string key = std::exchange(last_key_, std::string());
       send([&] { ws_.key_edit(*raw->c, t.toStdString(), key); });
@@ -391,6 +404,13 @@ void Binder::sync_control(Bound& b) {
   if (b.edit) {
     if (b.edit->text().toStdString() != c.text) {
       b.edit->setText(q(c.text));
+      // A box of the right-to-left form shows a number or a code left to right
+      // ("-3.3", not "3.3-"), still flush right; Persian text stays right to left.
+      if (b.follows_text) {
+        const bool persian = has_right_to_left_letter(c.text);
+        b.edit->setLayoutDirection(persian ? Qt::RightToLeft : Qt::LeftToRight);
+        b.edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      }
       // A long text (the heading, a report) is read from its start.
       if (!b.edit->hasFocus()) b.edit->setCursorPosition(0);
     }
