@@ -4,12 +4,17 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QLibraryInfo>
+#include <QPainter>
+#include <QSvgRenderer>
 #include <QTranslator>
+#include <memory>
 
 #include "bank/sqlite.h"
 #include "core/program.h"
 #include "core/workstation.h"
+#include "symbols/station_model.h"
 
 namespace obsdesk {
 
@@ -36,6 +41,7 @@ Desktop::Desktop(std::filesystem::path bank_root, Clock& clock) {
   asker_.before_box = [this] { binder_->sync(); };
   install_bank_chooser(*binder_);
   install_colour_chooser(*binder_);
+  install_station_model(*binder_);
 }
 
 Desktop::~Desktop() = default;
@@ -78,6 +84,38 @@ void install_colour_chooser(Binder& binder) {
     const long number = chosen.isValid() ? chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16) : -1;
     ws.set_text(ws.FrmMain.CommonDialog1, number < 0 ? std::string() : std::to_string(number));
     return true;
+  });
+}
+
+void install_station_model(Binder& binder) {
+  Workstation& ws = binder.workstation();
+  QWidget* form = binder.form(ws.FrmCode);
+  QLabel* view = form ? form->findChild<QLabel*>(QStringLiteral("ui_station_model")) : nullptr;
+  if (!view) return;
+  // The last text drawn: a sync that leaves txtSYN as it was costs nothing.
+  auto drawn = std::make_shared<std::string>();
+  binder.after_sync.push_back([view, drawn, &ws] {
+    const std::string& text = ws.FrmKashf.txtSYN.text;
+    if (text == *drawn) return;
+    *drawn = text;
+    if (text.empty()) {
+      view->clear();
+      return;
+    }
+    QSvgRenderer renderer(QByteArray::fromStdString(station_model_svg(text)));
+    // As wide as the panel's minimum, the model's own proportions kept (a model
+    // with unread groups listed under it grows down, not narrower).
+    const QSizeF box = renderer.viewBoxF().size();
+    const qreal scale = view->minimumWidth() / box.width();
+    const QSize size = (box * scale).toSize();
+    const qreal ratio = view->devicePixelRatioF();
+    QPixmap pix(size * ratio);
+    pix.setDevicePixelRatio(ratio);
+    pix.fill(Qt::white);
+    QPainter painter(&pix);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    painter.end();
+    view->setPixmap(pix);
   });
 }
 

@@ -47,4 +47,9 @@ void install_bank_chooser(Binder& binder);
 // chosen colour number where the colour rule reads it, before the click.
 void install_colour_chooser(Binder& binder);
 
+// The station model beside the code panel: the coded SYNOP (txtSYN) drawn as the
+// centre will plot it, redrawn whenever the text changes and empty while there
+// is none. A display only; it reads the core and sets nothing in it.
+void install_station_model(Binder& binder);
+
 }  // namespace obsdesk

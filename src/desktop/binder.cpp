@@ -363,6 +363,7 @@ void Binder::sync() {
   }
   for (auto& win : windows_) sync_window(*win);
   sync_focus();
+  for (const auto& hook : after_sync) hook();
   syncing_ = false;
   if (ws_.ended() && on_ended && !showing(ws_.FrmERR)) on_ended();
 }
@@ -371,6 +372,7 @@ void Binder::refresh(const Screen& s) {
   for (auto& win : windows_)
     if (win->screen == &s)
       for (Bound* b : win->bound) sync_control(*b);
+  for (const auto& hook : after_sync) hook();
 }
 
 void Binder::sync_control(Bound& b) {

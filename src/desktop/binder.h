@@ -72,6 +72,10 @@ class Binder : public QObject {
   Control* control_of(const QObject* w) const;
   Workstation& workstation() { return ws_; }
 
+  // Displays that follow the core but are no control of it (the station model
+  // beside the code panel) refresh themselves here, after every sync and refresh.
+  std::vector<std::function<void()>> after_sync;
+
   // Called after a sync that finds the program ended.
   std::function<void()> on_ended;
 

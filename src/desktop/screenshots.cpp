@@ -11,6 +11,7 @@
 
 #include "cli/runner.h"
 #include "core/workstation.h"
+#include "desktop/app.h"
 #include "desktop/binder.h"
 #include "desktop/services.h"
 
@@ -85,6 +86,7 @@ int take_screenshots(const std::filesystem::path& bank, const std::filesystem::p
       if (!binder && runner.workstation() != nullptr) {
         binder = std::make_unique<Binder>(*runner.workstation());
         binder->bind_all();
+        install_station_model(*binder);
       }
       if (binder) binder->sync();
     } catch (const std::exception& e) {

@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QImage>
+#include <QLabel>
 #include <QWidget>
 #include <gtest/gtest.h>
 
+#include "coders/synop.h"
 #include "core/workstation.h"
 #include "desktop/app.h"
 #include "support/test_support.h"
@@ -51,6 +54,57 @@ TEST(Desktop, CopyOutPutsTheBulletinOnTheSystemClipboard) {
   hands.click(ws.FrmPol.Command2);
   const QString pasted = QGuiApplication::clipboard()->text();
   EXPECT_TRUE(pasted.contains(QStringLiteral("METAR OIII 200600Z 27008KT 9999 SCT030 12/M02 Q1011="))) << pasted.toStdString();
+}
+
+// The station model beside the code panel follows txtSYN: nothing drawn before a
+// SYNOP is coded, the plotted report once Cmdsynop has coded it (ink on the
+// page, not a blank pixmap), and nothing again when the report is forgotten.
+TEST(Desktop, CodePanelDrawsTheStationModelOfTheCodedSynop) {
+  test::TempDir tmp;
+  FixedClock clock({2024, 3, 20, 6, 40, 0});
+  Desktop desktop(tmp.path() / "bank", clock);
+  ASSERT_TRUE(desktop.start());
+  Workstation& ws = desktop.workstation();
+  FrmKashf& k = ws.FrmKashf;
+  test::WidgetDriver hands(desktop.binder());
+  auto* model = desktop.binder().form(ws.FrmCode)->findChild<QLabel*>(QStringLiteral("ui_station_model"));
+  ASSERT_NE(model, nullptr);
+  const auto inked = [model] {
+    const QImage image = model->pixmap().toImage();
+    if (image.isNull()) return 0;
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (qGray(image.pixel(x, y)) < 128) ++dark;
+    return dark;
+  };
+
+  hands.click(ws.FrmMain.Command2);
+  hands.click(ws.FrmDisplayKashf.newW);
+  hands.choose(k.Combo5, "SYN & MET");
+  hands.type(ws.FrmIRIX.TXTIR, "3");
+  hands.type(ws.FrmIRIX.TXTIX, "2");
+  hands.type(k.Text1, "06");
+  hands.enter();
+  for (const auto& [box, value] : std::initializer_list<std::pair<Control*, const char*>>{
+           {&k.Text2, "270"}, {&k.Text3, "4"}, {&k.Text4, "10000"}, {&k.Text5, "3"}, {&k.Text6, "3"},
+           {&k.Combo1, "CU     1"}, {&k.Text7, "900"}, {&k.Text49, "3"}, {&k.Combo4, "CU     1"},
+           {&k.txtmin, "900"}, {&k.Text27, "12.4"}, {&k.Text28, "6.2"}, {&k.Text13, "15"}, {&k.Text14, "880.0"},
+           {&k.Text25, "1.2"}, {&k.Text38, "3"}, {&k.txtt12, "8.0"}})
+    ws.set_text(*box, value);
+  desktop.binder().sync();
+  EXPECT_TRUE(k.txtSYN.text.empty());
+  EXPECT_TRUE(model->pixmap().isNull());
+
+  hands.click(k.Cmdsynop);
+  ASSERT_FALSE(k.txtSYN.text.empty());
+  EXPECT_GE(model->pixmap().width(), 300);
+  // The circle, the barbs and a dozen figures: far more than a stray stroke.
+  EXPECT_GT(inked(), 500);
+
+  forget_synop(ws);
+  desktop.binder().sync();
+  EXPECT_TRUE(model->pixmap().isNull());
 }
 
 }  // namespace
