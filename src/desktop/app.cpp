@@ -15,6 +15,7 @@
 #include "core/program.h"
 #include "core/workstation.h"
 #include "symbols/station_model.h"
+#include "symbols/symbols.h"
 
 namespace obsdesk {
 
@@ -42,6 +43,7 @@ Desktop::Desktop(std::filesystem::path bank_root, Clock& clock) {
   install_bank_chooser(*binder_);
   install_colour_chooser(*binder_);
   install_station_model(*binder_);
+  install_hint_symbol(*binder_);
 }
 
 Desktop::~Desktop() = default;
@@ -116,6 +118,40 @@ void install_station_model(Binder& binder) {
     renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
     painter.end();
     view->setPixmap(pix);
+  });
+}
+
+void install_hint_symbol(Binder& binder) {
+  Workstation& ws = binder.workstation();
+  QWidget* form = binder.form(ws.FrmTooltip);
+  QLabel* view = form ? form->findChild<QLabel*>(QStringLiteral("ui_tip_symbol")) : nullptr;
+  if (!view) return;
+  auto drawn = std::make_shared<std::string>();
+  binder.after_sync.push_back([view, drawn, &binder, &ws] {
+    if (!ws.FrmTooltip.visible) return;
+    const Control* c = binder.pointed();
+    const std::string id = c ? c->text : std::string();
+    if (id == *drawn) return;
+    *drawn = id;
+    const std::string svg = symbol_svg(id);
+    if (svg.empty()) {
+      view->clear();
+      view->hide();
+      view->window()->adjustSize();
+      return;
+    }
+    QSvgRenderer renderer(QByteArray::fromStdString(svg));
+    const int side = view->minimumWidth();
+    const qreal ratio = view->devicePixelRatioF();
+    QPixmap pix(QSize(side, side) * ratio);
+    pix.setDevicePixelRatio(ratio);
+    pix.fill(Qt::transparent);
+    QPainter painter(&pix);
+    renderer.render(&painter, QRectF(0, 0, side, side));
+    painter.end();
+    view->setPixmap(pix);
+    view->show();
+    view->window()->adjustSize();
   });
 }
 

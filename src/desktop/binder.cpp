@@ -329,7 +329,10 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::Enter:
       // The pointer over a control that answers it (a board's picture shows its hint).
-      if (b.c->handler(Event::MouseMove) && !syncing_ && !ws_.ended()) send([&] { ws_.point_at(*b.c); });
+      if (b.c->handler(Event::MouseMove) && !syncing_ && !ws_.ended()) {
+        pointed_ = b.c;
+        send([&] { ws_.point_at(*b.c); });
+      }
       return false;
     case QEvent::MouseButtonPress:
       if (b.combo && watched == b.combo) send([&] { ws_.click(*b.c); });

@@ -71,6 +71,9 @@ class Binder : public QObject {
   // The control a bound widget stands for, nullptr for any other widget.
   Control* control_of(const QObject* w) const;
   Workstation& workstation() { return ws_; }
+  // The control the pointer last entered that answers it (a board's button), or
+  // nullptr: the hint window draws that control's symbol.
+  const Control* pointed() const { return pointed_; }
 
   // Displays that follow the core but are no control of it (the station model
   // beside the code panel) refresh themselves here, after every sync and refresh.
@@ -112,6 +115,7 @@ class Binder : public QObject {
   std::map<const QObject*, Bound*> by_widget_;
   std::map<const Control*, std::function<bool()>> before_click_;
   std::string last_key_;
+  const Control* pointed_ = nullptr;
   bool syncing_ = false;
   bool ended_message_read_ = false;
   int sending_ = 0;

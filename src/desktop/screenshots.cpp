@@ -87,6 +87,7 @@ int take_screenshots(const std::filesystem::path& bank, const std::filesystem::p
         binder = std::make_unique<Binder>(*runner.workstation());
         binder->bind_all();
         install_station_model(*binder);
+        install_hint_symbol(*binder);
       }
       if (binder) binder->sync();
     } catch (const std::exception& e) {

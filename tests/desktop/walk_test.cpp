@@ -3,6 +3,7 @@
 // past hours. The rules are proven in the core; these prove that each screen's
 // form reaches them and shows what they answer.
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -14,6 +15,7 @@
 #include "bank/sqlite.h"
 #include "core/seams.h"
 #include "core/workstation.h"
+#include "desktop/app.h"
 #include "desktop/binder.h"
 #include "settings/station_settings.h"
 #include "support/test_support.h"
@@ -35,6 +37,7 @@ struct Desk {
     ws = &w;
     binder = std::make_unique<Binder>(w);
     binder->bind_all();
+    install_hint_symbol(*binder);
     binder->sync();
     hands = std::make_unique<test::WidgetDriver>(*binder);
   }
@@ -121,8 +124,17 @@ TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
   EXPECT_TRUE(d.up(ws.FrmTooltip));
   EXPECT_FALSE(d.hands->shown_text(ws.FrmTooltip.Lab1).isEmpty());
   EXPECT_EQ(ws.active_screen(), &ws.FrmFeali);  // the hint takes no input
+  // The hint draws the symbol of the button under the pointer, enlarged, and
+  // redraws it when the pointer moves to another button.
+  auto* tip_symbol = d.binder->form(ws.FrmTooltip)->findChild<QLabel*>(QStringLiteral("ui_tip_symbol"));
+  ASSERT_NE(tip_symbol, nullptr);
+  const QImage symbol63 = tip_symbol->pixmap().toImage();
+  EXPECT_FALSE(symbol63.isNull());
+  EXPECT_GT(symbol63.width(), p63->iconSize().width());
   d.point(P61);
   EXPECT_EQ(d.hands->shown_text(ws.FrmTooltip.Lab1).toStdString(), ws.FrmTooltip.Lab1.text);
+  EXPECT_FALSE(tip_symbol->pixmap().isNull());
+  EXPECT_NE(tip_symbol->pixmap().toImage(), symbol63);
   d.hands->click(*ws.control("FrmFeali.P05"));
   EXPECT_FALSE(d.up(ws.FrmFeali));
   EXPECT_FALSE(d.up(ws.FrmTooltip));
