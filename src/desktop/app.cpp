@@ -14,6 +14,7 @@
 #include "bank/sqlite.h"
 #include "core/program.h"
 #include "core/workstation.h"
+#include "symbols/meanings.h"
 #include "symbols/station_model.h"
 #include "symbols/symbols.h"
 
@@ -125,14 +126,18 @@ void install_hint_symbol(Binder& binder) {
   Workstation& ws = binder.workstation();
   QWidget* form = binder.form(ws.FrmTooltip);
   QLabel* view = form ? form->findChild<QLabel*>(QStringLiteral("ui_tip_symbol")) : nullptr;
-  if (!view) return;
+  QLabel* meaning = form ? form->findChild<QLabel*>(QStringLiteral("ui_tip_meaning")) : nullptr;
+  if (!view || !meaning) return;
   auto drawn = std::make_shared<std::string>();
-  binder.after_sync.push_back([view, drawn, &binder, &ws] {
+  binder.after_sync.push_back([view, meaning, drawn, &binder, &ws] {
     if (!ws.FrmTooltip.visible) return;
     const Control* c = binder.pointed();
     const std::string id = c ? c->text : std::string();
     if (id == *drawn) return;
     *drawn = id;
+    const std::string_view said = symbol_meaning(id);
+    meaning->setText(QString::fromUtf8(said.data(), static_cast<qsizetype>(said.size())));
+    meaning->setVisible(!said.empty());
     const std::string svg = symbol_svg(id);
     if (svg.empty()) {
       view->clear();

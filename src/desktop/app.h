@@ -52,8 +52,8 @@ void install_colour_chooser(Binder& binder);
 // is none. A display only; it reads the core and sets nothing in it.
 void install_station_model(Binder& binder);
 
-// The hint window of the boards: under the code, the symbol of the button the
-// pointer is on, drawn large enough to read its strokes.
+// The hint window of the boards: under the code, its short meaning and the
+// symbol of the button the pointer is on, drawn large enough to read its strokes.
 void install_hint_symbol(Binder& binder);
 
 }  // namespace obsdesk

@@ -131,6 +131,9 @@ TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
   const QImage symbol63 = tip_symbol->pixmap().toImage();
   EXPECT_FALSE(symbol63.isNull());
   EXPECT_GT(symbol63.width(), p63->iconSize().width());
+  auto* tip_meaning = d.binder->form(ws.FrmTooltip)->findChild<QLabel*>(QStringLiteral("ui_tip_meaning"));
+  ASSERT_NE(tip_meaning, nullptr);
+  EXPECT_EQ(tip_meaning->text(), "Rain, continuous, moderate");
   d.point(P61);
   EXPECT_EQ(d.hands->shown_text(ws.FrmTooltip.Lab1).toStdString(), ws.FrmTooltip.Lab1.text);
   EXPECT_FALSE(tip_symbol->pixmap().isNull());
