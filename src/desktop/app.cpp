@@ -1,4 +1,5 @@
 #include "desktop/app.h"
+#include "desktop/svg_pixmap.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -6,8 +7,6 @@
 #include <QFontDatabase>
 #include <QLabel>
 #include <QLibraryInfo>
-#include <QPainter>
-#include <QSvgRenderer>
 #include <QTranslator>
 #include <memory>
 
@@ -105,19 +104,9 @@ void install_station_model(Binder& binder) {
       view->clear();
       return;
     }
-    QSvgRenderer renderer(QByteArray::fromStdString(station_model_svg(text)));
     // As wide as the panel's minimum, the model's own proportions kept (a model
     // with unread groups listed under it grows down, not narrower).
-    const QSizeF box = renderer.viewBoxF().size();
-    const qreal scale = view->minimumWidth() / box.width();
-    const QSize size = (box * scale).toSize();
-    const qreal ratio = view->devicePixelRatioF();
-    QPixmap pix(size * ratio);
-    pix.setDevicePixelRatio(ratio);
-    pix.fill(Qt::white);
-    QPainter painter(&pix);
-    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
-    painter.end();
+    const QPixmap pix = svg_pixmap(station_model_svg(text), view->minimumWidth(), view->devicePixelRatioF(), Qt::white);
     view->setPixmap(pix);
   });
 }
@@ -145,15 +134,7 @@ void install_hint_symbol(Binder& binder) {
       view->window()->adjustSize();
       return;
     }
-    QSvgRenderer renderer(QByteArray::fromStdString(svg));
-    const int side = view->minimumWidth();
-    const qreal ratio = view->devicePixelRatioF();
-    QPixmap pix(QSize(side, side) * ratio);
-    pix.setDevicePixelRatio(ratio);
-    pix.fill(Qt::transparent);
-    QPainter painter(&pix);
-    renderer.render(&painter, QRectF(0, 0, side, side));
-    painter.end();
+    const QPixmap pix = svg_pixmap(svg, view->minimumWidth(), view->devicePixelRatioF());
     view->setPixmap(pix);
     view->show();
     view->window()->adjustSize();

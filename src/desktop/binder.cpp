@@ -1,4 +1,5 @@
 #include "desktop/binder.h"
+#include "desktop/svg_pixmap.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -11,12 +12,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QSvgRenderer>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <set>
@@ -49,14 +48,8 @@ void show_picture(QLabel* l, const std::string& id) {
     l->setText(q(id));
     return;
   }
-  QSvgRenderer renderer(QByteArray::fromStdString(svg));
   const int side = std::max(16, std::min(l->minimumWidth(), l->minimumHeight()) - 4);
-  const qreal ratio = l->devicePixelRatioF();
-  QPixmap pix(QSize(side, side) * ratio);
-  pix.setDevicePixelRatio(ratio);
-  pix.fill(Qt::transparent);
-  QPainter painter(&pix);
-  renderer.render(&painter, QRectF(0, 0, side, side));
+  const QPixmap pix = svg_pixmap(svg, side, l->devicePixelRatioF());
   l->setPixmap(pix);
 }
 
@@ -77,11 +70,7 @@ void show_on_button(QAbstractButton* b, const std::string& id) {
     QIcon icon;
     const std::string svg = symbol_svg(id);
     if (!svg.empty()) {
-      QSvgRenderer renderer(QByteArray::fromStdString(svg));
-      QPixmap pix(48, 48);
-      pix.fill(Qt::transparent);
-      QPainter painter(&pix);
-      renderer.render(&painter);
+      const QPixmap pix = svg_pixmap(svg, 48);
       icon = QIcon(pix);
     }
     it = drawn.emplace(id, icon).first;

@@ -27,21 +27,7 @@ TEST(Desktop, CopyOutPutsTheBulletinOnTheSystemClipboard) {
   test::WidgetDriver hands(desktop.binder());
   EXPECT_TRUE(desktop.binder().window(ws.FrmMain)->isVisible());
 
-  hands.click(ws.FrmMain.Command2);
-  hands.click(ws.FrmDisplayKashf.newW);
-  hands.choose(k.Combo5, "SYN & MET");
-  hands.type(ws.FrmIRIX.TXTIR, "3");
-  hands.type(ws.FrmIRIX.TXTIX, "2");
-  hands.type(k.Text1, "06");
-  hands.enter();
-  // The values go in as the rules' own settings do; the typed-report test walks them.
-  for (const auto& [box, value] : std::initializer_list<std::pair<Control*, const char*>>{
-           {&k.Text2, "270"}, {&k.Text3, "4"}, {&k.Text4, "10000"}, {&k.Text5, "3"}, {&k.Text6, "3"},
-           {&k.Combo1, "CU     1"}, {&k.Text7, "900"}, {&k.Text49, "3"}, {&k.Combo4, "CU     1"},
-           {&k.txtmin, "900"}, {&k.Text27, "12.4"}, {&k.Text28, "6.2"}, {&k.Text13, "15"}, {&k.Text14, "880.0"},
-           {&k.Text25, "1.2"}, {&k.Text38, "3"}, {&k.txtt12, "8.0"}})
-    ws.set_text(*box, value);
-  desktop.binder().sync();
+  hands.open_synmet_06();
   hands.click(k.Cmdsynop);
   hands.click(k.Command4);
   hands.click(k.Combo7);
@@ -79,20 +65,7 @@ TEST(Desktop, CodePanelDrawsTheStationModelOfTheCodedSynop) {
     return dark;
   };
 
-  hands.click(ws.FrmMain.Command2);
-  hands.click(ws.FrmDisplayKashf.newW);
-  hands.choose(k.Combo5, "SYN & MET");
-  hands.type(ws.FrmIRIX.TXTIR, "3");
-  hands.type(ws.FrmIRIX.TXTIX, "2");
-  hands.type(k.Text1, "06");
-  hands.enter();
-  for (const auto& [box, value] : std::initializer_list<std::pair<Control*, const char*>>{
-           {&k.Text2, "270"}, {&k.Text3, "4"}, {&k.Text4, "10000"}, {&k.Text5, "3"}, {&k.Text6, "3"},
-           {&k.Combo1, "CU     1"}, {&k.Text7, "900"}, {&k.Text49, "3"}, {&k.Combo4, "CU     1"},
-           {&k.txtmin, "900"}, {&k.Text27, "12.4"}, {&k.Text28, "6.2"}, {&k.Text13, "15"}, {&k.Text14, "880.0"},
-           {&k.Text25, "1.2"}, {&k.Text38, "3"}, {&k.txtt12, "8.0"}})
-    ws.set_text(*box, value);
-  desktop.binder().sync();
+  hands.open_synmet_06();
   EXPECT_TRUE(k.txtSYN.text.empty());
   EXPECT_TRUE(model->pixmap().isNull());
 

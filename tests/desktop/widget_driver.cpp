@@ -85,4 +85,23 @@ QString WidgetDriver::shown_text(Control& c) {
   return {};
 }
 
+void WidgetDriver::open_synmet_06() {
+  Workstation& ws = binder_.workstation();
+  FrmKashf& k = ws.FrmKashf;
+  click(ws.FrmMain.Command2);
+  click(ws.FrmDisplayKashf.newW);
+  choose(k.Combo5, "SYN & MET");
+  type(ws.FrmIRIX.TXTIR, "3");
+  type(ws.FrmIRIX.TXTIX, "2");
+  type(k.Text1, "06");
+  enter();
+  for (const auto& [box, value] : std::initializer_list<std::pair<Control*, const char*>>{
+           {&k.Text2, "270"}, {&k.Text3, "4"}, {&k.Text4, "10000"}, {&k.Text5, "3"}, {&k.Text6, "3"},
+           {&k.Combo1, "CU     1"}, {&k.Text7, "900"}, {&k.Text49, "3"}, {&k.Combo4, "CU     1"},
+           {&k.txtmin, "900"}, {&k.Text27, "12.4"}, {&k.Text28, "6.2"}, {&k.Text13, "15"}, {&k.Text14, "880.0"},
+           {&k.Text25, "1.2"}, {&k.Text38, "3"}, {&k.txtt12, "8.0"}})
+    ws.set_text(*box, value);
+  binder_.sync();
+}
+
 }  // namespace obsdesk::test

@@ -24,6 +24,10 @@ class WidgetDriver {
   void choose(Control& c, const std::string& item);
   // The text the control's widget shows.
   QString shown_text(Control& c);
+  // From the start screen: a new SYN & MET at 06 UTC through the widgets, its
+  // values put in as the rules' own settings do (the typed-report test walks
+  // them key by key), ready to be coded.
+  void open_synmet_06();
 
  private:
   QWidget* widget(Control& c);
