@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <map>
 #include <memory>
+#include <unordered_map>
 
 namespace obsdesk {
 
@@ -134,20 +135,36 @@ Layout layout_for(std::size_t layers) {
 
 // ---- Writing ----------------------------------------------------------------------
 
+// What a template handle was last given, key by key: a value the handle already
+// holds is not set again. Setting a value is most of the cost of a message, and
+// from one report to the next most values (the station, its position, the
+// heights of its instruments, the missing elements) stay the same.
+using LastSet = std::unordered_map<std::string, std::string>;
+
 class Writer {
  public:
-  Writer(codes_handle* h, const Layout& layout) : h_(h), cursor_(layout) {}
+  Writer(codes_handle* h, const Layout& layout, LastSet& last) : h_(h), cursor_(layout), last_(last) {}
   // Each call moves the cursor to the element, so that values are written in the
   // template's order; a missing value is skipped and stays missing.
   // The handle is used again for the next message: a missing value is written
   // as missing, so nothing of the message before stays behind.
   void put(std::string_view name, std::optional<double> v) {
     const std::string key = cursor_.next(name);
-    check(v ? codes_set_double(h_, key.c_str(), *v) : codes_set_missing(h_, key.c_str()), key);
+    if (v) {
+      char text[32];
+      std::snprintf(text, sizeof text, "d%a", *v);
+      if (fresh(key, text)) check(codes_set_double(h_, key.c_str(), *v), key);
+    } else if (fresh(key, "m")) {
+      check(codes_set_missing(h_, key.c_str()), key);
+    }
   }
   void put(std::string_view name, std::optional<long> v) {
     const std::string key = cursor_.next(name);
-    check(v ? codes_set_long(h_, key.c_str(), *v) : codes_set_missing(h_, key.c_str()), key);
+    if (v) {
+      if (fresh(key, "l" + std::to_string(*v))) check(codes_set_long(h_, key.c_str(), *v), key);
+    } else if (fresh(key, "m")) {
+      check(codes_set_missing(h_, key.c_str()), key);
+    }
   }
   void put(std::string_view name, std::optional<int> v) {
     put(name, v ? std::optional<long>(*v) : std::nullopt);
@@ -156,16 +173,27 @@ class Writer {
   void put_text(std::string_view name, const std::string& text) {
     const std::string key = cursor_.next(name);
     if (text.empty()) {
-      check(codes_set_missing(h_, key.c_str()), key);
+      if (fresh(key, "m")) check(codes_set_missing(h_, key.c_str()), key);
       return;
     }
+    if (!fresh(key, "s" + text)) return;
     size_t n = text.size();
     check(codes_set_string(h_, key.c_str(), text.c_str(), &n), key);
   }
 
  private:
+  // True when the handle does not hold this value yet; it is noted as held
+  // before the call that sets it, and a failed call drops the whole handle.
+  bool fresh(const std::string& key, std::string value) {
+    std::string& held = last_[key];
+    if (held == value) return false;
+    held = std::move(value);
+    return true;
+  }
+
   codes_handle* h_;
   Cursor cursor_;
+  LastSet& last_;
 };
 
 std::optional<long> widen(std::optional<int> v) { return v ? std::optional<long>(*v) : std::nullopt; }
@@ -462,10 +490,19 @@ namespace {
 // A handle with the template laid out for this many cloud layers. Laying out
 // the template costs a hundred times more than filling it, so each thread keeps
 // one handle per layer count and fills it again for every message.
-codes_handle* template_handle(std::size_t layers) {
-  thread_local std::map<std::size_t, Handle> handles;
-  auto it = handles.find(layers);
-  if (it != handles.end()) return it->second.get();
+struct Template {
+  Handle handle{nullptr, codes_handle_delete};
+  LastSet last;
+};
+
+std::map<std::size_t, Template>& templates() {
+  thread_local std::map<std::size_t, Template> kept;
+  return kept;
+}
+
+Template& template_for(std::size_t layers) {
+  auto it = templates().find(layers);
+  if (it != templates().end()) return it->second;
   Handle h(codes_bufr_handle_new_from_samples(nullptr, "BUFR4"), codes_handle_delete);
   if (!h) throw BufrError("BUFR: ecCodes has no BUFR4 sample");
   codes_handle* c = h.get();
@@ -478,7 +515,9 @@ codes_handle* template_handle(std::size_t layers) {
   check(codes_set_long(c, "compressedData", 0), "compression");
   const long seq[] = {301150, 307080};
   check(codes_set_long_array(c, "unexpandedDescriptors", seq, 2), "template");
-  return handles.emplace(layers, std::move(h)).first->second.get();
+  Template& t = templates()[layers];
+  t.handle = std::move(h);
+  return t;
 }
 
 // The sub-category and the typical time of section 1, written into the packed
@@ -504,17 +543,26 @@ void set_typical_time(std::string& message, const BufrReport& r) {
 }  // namespace
 
 std::string encode_bufr(const BufrReport& report) {
-  codes_handle* c = template_handle(report.values.layers.size());
-  const Layout layout = layout_for(report.values.layers.size());
-  Writer w(c, layout);
-  put_values(w, report);
-  check(codes_set_long(c, "pack", 1), "pack");
-  const void* message = nullptr;
-  size_t size = 0;
-  check(codes_get_message(c, &message, &size), "message");
-  std::string out(static_cast<const char*>(message), size);
-  set_typical_time(out, report);
-  return out;
+  const std::size_t layers = report.values.layers.size();
+  Template& t = template_for(layers);
+  codes_handle* c = t.handle.get();
+  try {
+    const Layout layout = layout_for(layers);  // the writer's cursor walks it
+    Writer w(c, layout, t.last);
+    put_values(w, report);
+    check(codes_set_long(c, "pack", 1), "pack");
+    const void* message = nullptr;
+    size_t size = 0;
+    check(codes_get_message(c, &message, &size), "message");
+    std::string out(static_cast<const char*>(message), size);
+    set_typical_time(out, report);
+    return out;
+  } catch (...) {
+    // What the handle holds after a failed call is not known: the next message
+    // starts from a fresh template.
+    templates().erase(layers);
+    throw;
+  }
 }
 
 std::vector<BufrReport> decode_bufr(std::string_view bytes) {
