@@ -143,19 +143,10 @@ void append_scdata(Workstation& ws) {
   scdata_lines(ws, journal);
   if (journal.empty()) return;
   Database& db = ws.FrmDisplayKashf.KASHF.rs.database();
-  db.exec("BEGIN IMMEDIATE");
-  std::int64_t intent = 0;
-  try {
-    intent = record_provisional(db, ws.bank_root(), journal);
-    announce(ws.file_seam, FileCall::Commit, db.file());
-    db.exec("COMMIT");
-  } catch (...) {
-    try {
-      db.exec("ROLLBACK");
-    } catch (const std::exception&) {
-    }
-    throw;
-  }
+  Transaction t(db);
+  const std::int64_t intent = record_provisional(db, ws.bank_root(), journal);
+  announce(ws.file_seam, FileCall::Commit, db.file());
+  t.commit();
   try {
     journal.write();
   } catch (...) {
@@ -299,21 +290,17 @@ std::string browser_value(Workstation& ws, std::string_view box) {
 
 // The open row and the save's intent in one transaction; on failure neither is
 // kept and the row stays open for another save.
-std::int64_t commit_row(Workstation& ws, const SaveJournal& journal) {
+Commit commit_row(Workstation& ws, const SaveJournal& journal) {
   Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
   Database& db = rs.database();
-  db.exec("BEGIN IMMEDIATE");
   try {
+    Transaction t(db);
     ws.FrmDisplayKashf.KASHF.update();
-    const std::int64_t intent = record_committed(db, ws.bank_root(), journal);
+    const Commit intent = record_committed(db, ws.bank_root(), journal);
     announce(ws.file_seam, FileCall::Commit, db.file());
-    db.exec("COMMIT");
+    t.commit();
     return intent;
   } catch (...) {
-    try {
-      db.exec("ROLLBACK");
-    } catch (const std::exception&) {
-    }
     if (rs.edit_mode() == Recordset::EditMode::None) rs.add_new();
     throw;
   }
@@ -324,25 +311,21 @@ std::int64_t commit_row(Workstation& ws, const SaveJournal& journal) {
 // When the files cannot be put back the row stays saved and its intent is
 // finished before the next save, or at the next start.
 // Returns false when the row stays saved.
-bool take_back(Workstation& ws, const SaveJournal& journal, std::int64_t intent, const std::exception& cause) {
+bool take_back(Workstation& ws, const SaveJournal& journal, const Commit& intent, const std::exception& cause) {
   Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
   Database& db = rs.database();
   try {
     journal.undo();
-    db.exec("BEGIN IMMEDIATE");
+    Transaction t(db);
     auto row = db.prepare("DELETE FROM KASHF WHERE rowid = ?");
     row.bind(1, rs.last_modified());
     row.run();
     withdraw_intent(db, intent);
-    db.exec("COMMIT");
+    t.commit();
     rs.add_new();
     ws.message(std::string(cause.what()) + kNotSaved);
     return true;
   } catch (const std::exception& e) {
-    try {
-      db.exec("ROLLBACK");
-    } catch (const std::exception&) {
-    }
     ws.message(std::string(cause.what()) + kSavedNotWritten + "\n" + e.what());
     return false;
   }
@@ -396,7 +379,10 @@ void save_click(Workstation& ws) {
   try {
     Database& db = rs.database();
     // A save whose files were left unwritten is finished before the next.
-    if (has_unapplied(db)) finish_pending(db, root, seam, false);
+    if (ws.files_waiting) {
+      finish_pending(db, root, seam, false);
+      ws.files_waiting = false;
+    }
 
     // Everything the save writes, listed before anything is written.
     SaveJournal journal(seam);
@@ -412,7 +398,7 @@ void save_click(Workstation& ws) {
 
     // The row and the intent commit together, and reach the disk with all that
     // was written before them in the save's one flush.
-    const std::int64_t intent = commit_row(ws, journal);
+    const Commit intent = commit_row(ws, journal);
     bool written = true;
     try {
       flush_files(root, seam);
@@ -427,7 +413,6 @@ void save_click(Workstation& ws) {
     if (written) {
       try {
         journal.put_in_place();
-        mark_applied(db, intent);
       } catch (const std::exception& e) {
         unfinished = e.what();
       }
@@ -440,6 +425,7 @@ void save_click(Workstation& ws) {
     open_copy_out(ws);
     keep_past_row(ws);
     ws.FrmMain.PAST.refresh(ws);
+    ws.files_waiting = !written || !unfinished.empty();
     if (!unfinished.empty()) ws.message(unfinished + kSavedNotWritten);
   } catch (const UsageError&) {
     throw;

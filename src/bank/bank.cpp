@@ -258,9 +258,9 @@ void make_database(const fs::path& file, const std::vector<std::string_view>& ta
     // One file, no log beside it, when it is renamed.
     db.exec("PRAGMA journal_mode=DELETE");
     db.exec("PRAGMA user_version=1");  // a database with no table is still a whole file
-    db.exec("BEGIN");
-    for (std::string_view t : tables) make_table(db, t, prog);
-    db.exec("COMMIT");
+    Transaction t(db);
+    for (std::string_view table : tables) make_table(db, table, prog);
+    t.commit();
   }
   announce(seam, FileCall::Rename, file);
   fs::rename(tmp, file, ec);
@@ -355,9 +355,9 @@ BankCheck check_bank(const fs::path& root, std::string_view prog, std::string_vi
     Database db(file, Database::Mode::ReadWrite);
     for (std::string_view t : need.tables) {
       if (db.has_table(t)) continue;
-      db.exec("BEGIN");
+      Transaction made(db);
       make_table(db, t, prog);
-      db.exec("COMMIT");
+      made.commit();
       out.made.push_back(file.string() + ": table " + std::string(t));
     }
     return true;

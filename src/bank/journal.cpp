@@ -224,77 +224,126 @@ fs::path file_of(const fs::path& root, const std::string& stored) {
   return p.is_absolute() ? p : root / p;
 }
 
-std::int64_t next_intent(Database& db) {
-  auto st = db.prepare("SELECT coalesce(max(intent), 0) + 1 FROM SaveJournal");
-  st.step();
-  return st.integer(0);
+// An intent is one row: its operations packed one after another, each as its
+// kind ('a' or 'r'), the file's name, the length before and the bytes, the
+// numbers in eight octets, least significant first. One row a save keeps the
+// pages its commit writes to the few the bytes need.
+void put_number(std::string& out, std::int64_t n) {
+  for (int i = 0; i < 8; ++i) out.push_back(static_cast<char>((static_cast<std::uint64_t>(n) >> (8 * i)) & 0xff));
 }
 
-// The operations in their order; the table's row order is the order of every
-// intent's operations and of the intents themselves.
-void insert_ops(Database& db, const fs::path& root, const SaveJournal& j, std::int64_t intent, bool committed) {
+void put_chunk(std::string& out, std::string_view bytes) {
+  put_number(out, static_cast<std::int64_t>(bytes.size()));
+  out.append(bytes);
+}
+
+std::string packed(const fs::path& root, const SaveJournal& j) {
+  std::size_t size = 0;
+  for (const SaveJournal::Op& op : j.ops()) size += 64 + op.file.native().size() + op.bytes.size();
+  std::string out;
+  out.reserve(size);
   for (const SaveJournal::Op& op : j.ops()) {
-    auto st = db.prepare(
-        "INSERT INTO SaveJournal (intent, committed, applied, kind, file, before, bytes) "
-        "VALUES (?, ?, 0, ?, ?, ?, ?)");
-    st.bind(1, intent).bind(2, std::int64_t{committed ? 1 : 0});
-    st.bind(3, std::string_view(op.kind == SaveJournal::Kind::Append ? "append" : "replace"));
-    st.bind(4, stored_name(root, op.file)).bind(5, op.before).bind_bytes(6, op.bytes);
-    st.run();
+    out.push_back(op.kind == SaveJournal::Kind::Append ? 'a' : 'r');
+    put_chunk(out, stored_name(root, op.file));
+    put_number(out, op.before);
+    put_chunk(out, op.bytes);
   }
+  return out;
 }
 
-struct StoredOp {
-  std::int64_t intent;
-  bool committed;
-  SaveJournal::Op op;
+class Unpacker {
+ public:
+  explicit Unpacker(std::string_view bytes) : in_(bytes) {}
+  bool done() const { return at_ == in_.size(); }
+  SaveJournal::Op op(const fs::path& root) {
+    const char kind = take(1)[0];
+    if (kind != 'a' && kind != 'r') damaged();
+    const std::string file(chunk());
+    const std::int64_t before = number();
+    return {kind == 'a' ? SaveJournal::Kind::Append : SaveJournal::Kind::Replace, file_of(root, file), before,
+            std::string(chunk())};
+  }
+
+ private:
+  [[noreturn]] static void damaged() { throw BankError("the save journal of the bank is damaged"); }
+  std::string_view take(std::size_t n) {
+    if (n > in_.size() - at_) damaged();
+    const std::string_view out = in_.substr(at_, n);
+    at_ += n;
+    return out;
+  }
+  std::int64_t number() {
+    const std::string_view b = take(8);
+    std::uint64_t n = 0;
+    for (int i = 7; i >= 0; --i) n = (n << 8) | static_cast<unsigned char>(b[static_cast<std::size_t>(i)]);
+    return static_cast<std::int64_t>(n);
+  }
+  std::string_view chunk() {
+    const std::int64_t n = number();
+    if (n < 0) damaged();
+    return take(static_cast<std::size_t>(n));
+  }
+
+  std::string_view in_;
+  std::size_t at_ = 0;
 };
 
-std::vector<StoredOp> read_ops(Database& db, const fs::path& root, std::string_view where) {
-  std::vector<StoredOp> out;
-  auto st = db.prepare("SELECT intent, committed, kind, file, before, bytes FROM SaveJournal " + std::string(where) +
-                       " ORDER BY rowid");
+}  // namespace
+
+void create_journal_table(Database& db) {
+  db.exec(
+      "CREATE TABLE IF NOT EXISTS SaveJournal (intent INTEGER PRIMARY KEY, committed INTEGER NOT NULL, "
+      "ops BLOB NOT NULL)");
+}
+
+namespace {
+
+std::int64_t insert_intent(Database& db, const fs::path& root, const SaveJournal& j, bool committed) {
+  if (!db.has_table("SaveJournal")) create_journal_table(db);
+  auto add = db.prepare("INSERT INTO SaveJournal (committed, ops) VALUES (?, ?)");
+  add.bind(1, std::int64_t{committed ? 1 : 0}).bind_bytes(2, packed(root, j));
+  add.run();
+  return db.last_insert_rowid();
+}
+
+struct StoredIntent {
+  std::int64_t intent;
+  std::vector<SaveJournal::Op> ops;
+};
+
+std::vector<StoredIntent> read_intents(Database& db, const fs::path& root, bool committed) {
+  std::vector<StoredIntent> out;
+  auto st = db.prepare("SELECT intent, ops FROM SaveJournal WHERE committed = ? ORDER BY intent");
+  st.bind(1, std::int64_t{committed ? 1 : 0});
   while (st.step()) {
-    const auto kind = st.text(2) == "replace" ? SaveJournal::Kind::Replace : SaveJournal::Kind::Append;
-    out.push_back({st.integer(0), st.integer(1) != 0, {kind, file_of(root, st.text(3)), st.integer(4), st.bytes(5)}});
+    StoredIntent s{st.integer(0), {}};
+    const std::string ops = st.bytes(1);
+    for (Unpacker in(ops); !in.done();) s.ops.push_back(in.op(root));
+    out.push_back(std::move(s));
   }
   return out;
 }
 
 }  // namespace
 
-void create_journal_table(Database& db) {
-  db.exec(
-      "CREATE TABLE IF NOT EXISTS SaveJournal (intent INTEGER NOT NULL, committed INTEGER NOT NULL, "
-      "applied INTEGER NOT NULL, kind TEXT NOT NULL, file TEXT NOT NULL, before INTEGER NOT NULL, bytes BLOB)");
-}
-
 std::int64_t record_provisional(Database& db, const fs::path& root, const SaveJournal& j) {
-  create_journal_table(db);
-  const std::int64_t intent = next_intent(db);
-  insert_ops(db, root, j, intent, false);
-  return intent;
+  return insert_intent(db, root, j, false);
 }
 
-std::int64_t record_committed(Database& db, const fs::path& root, const SaveJournal& j) {
-  create_journal_table(db);
-  db.exec(
-      "DELETE FROM SaveJournal WHERE committed = 1 AND intent < "
-      "(SELECT max(intent) FROM SaveJournal WHERE committed = 1)");
-  const std::int64_t intent = next_intent(db);
-  // The confirmation's lines join the intent; they were written first and stand
-  // first in it, and they are on the files already.
-  auto joined = db.prepare("UPDATE SaveJournal SET intent = ?, committed = 1, applied = 1 WHERE committed = 0");
-  joined.bind(1, intent);
-  joined.run();
-  insert_ops(db, root, j, intent, true);
-  return intent;
-}
-
-void mark_applied(Database& db, std::int64_t intent) {
-  auto st = db.prepare("UPDATE SaveJournal SET applied = 1 WHERE intent = ?");
-  st.bind(1, intent);
-  st.run();
+Commit record_committed(Database& db, const fs::path& root, const SaveJournal& j) {
+  Commit c;
+  if (db.has_table("SaveJournal")) {
+    db.prepare(
+          "DELETE FROM SaveJournal WHERE committed = 1 AND intent < "
+          "(SELECT max(intent) FROM SaveJournal WHERE committed = 1)")
+        .run();
+    auto first = db.prepare("SELECT min(intent) FROM SaveJournal WHERE committed = 0");
+    if (first.step() && !first.is_null(0)) c.first_joined = first.integer(0);
+    if (c.first_joined > 0) db.prepare("UPDATE SaveJournal SET committed = 1 WHERE committed = 0").run();
+  }
+  c.intent = insert_intent(db, root, j, true);
+  if (c.first_joined == 0) c.first_joined = c.intent;
+  return c;
 }
 
 void drop_intent(Database& db, std::int64_t intent) {
@@ -303,54 +352,38 @@ void drop_intent(Database& db, std::int64_t intent) {
   st.run();
 }
 
-void withdraw_intent(Database& db, std::int64_t intent) {
-  auto own = db.prepare("DELETE FROM SaveJournal WHERE intent = ? AND applied = 0");
-  own.bind(1, intent);
-  own.run();
-  auto lines = db.prepare("UPDATE SaveJournal SET committed = 0 WHERE intent = ?");
-  lines.bind(1, intent);
+void withdraw_intent(Database& db, const Commit& c) {
+  drop_intent(db, c.intent);
+  auto lines = db.prepare("UPDATE SaveJournal SET committed = 0 WHERE intent >= ? AND intent < ?");
+  lines.bind(1, c.first_joined).bind(2, c.intent);
   lines.run();
-}
-
-bool has_unapplied(Database& db) {
-  if (!db.has_table("SaveJournal")) return false;
-  auto st = db.prepare("SELECT 1 FROM SaveJournal WHERE committed = 1 AND applied = 0 LIMIT 1");
-  return st.step();
 }
 
 Recovery finish_pending(Database& db, const fs::path& root, FileSeam* seam, bool at_start) {
   Recovery r;
   if (!db.has_table("SaveJournal")) return r;
-  const auto committed = read_ops(db, root, at_start ? "WHERE committed = 1" : "WHERE committed = 1 AND applied = 0");
-  std::int64_t counted = 0;
-  for (const StoredOp& s : committed) {
-    const bool wrote = s.op.kind == SaveJournal::Kind::Append ? redo_append(seam, s.op) : redo_replace(seam, s.op);
-    if (wrote && s.intent != counted) {
-      ++r.redone;
-      counted = s.intent;
-    }
-  }
-  // Finished, and kept until the next save's flush has put their files on the
-  // disk, as a save's own intent is.
-  db.exec("UPDATE SaveJournal SET applied = 1 WHERE committed = 1");
-  if (!at_start) return r;
-  const auto provisional = read_ops(db, root, "WHERE committed = 0");
-  counted = 0;
-  for (auto it = provisional.rbegin(); it != provisional.rend(); ++it) {
+  for (const StoredIntent& s : read_intents(db, root, true)) {
     bool wrote = false;
-    if (it->op.kind == SaveJournal::Kind::Append) {
-      wrote = undo_append(seam, it->op);
-    } else {
-      wrote = length_of(temporary_of(it->op.file)) >= 0;
-      remove_file(seam, temporary_of(it->op.file));
+    for (const SaveJournal::Op& op : s.ops)
+      wrote = (op.kind == SaveJournal::Kind::Append ? redo_append(seam, op) : redo_replace(seam, op)) || wrote;
+    if (wrote) ++r.redone;
+  }
+  if (!at_start) return r;
+  const auto provisional = read_intents(db, root, false);
+  for (auto s = provisional.rbegin(); s != provisional.rend(); ++s) {
+    bool wrote = false;
+    for (auto op = s->ops.rbegin(); op != s->ops.rend(); ++op) {
+      if (op->kind == SaveJournal::Kind::Append) {
+        wrote = undo_append(seam, *op) || wrote;
+      } else {
+        wrote = length_of(temporary_of(op->file)) >= 0 || wrote;
+        remove_file(seam, temporary_of(op->file));
+      }
     }
-    if (wrote && it->intent != counted) {
-      ++r.undone;
-      counted = it->intent;
-    }
+    if (wrote) ++r.undone;
   }
   // What was put back reaches the disk before its record goes.
-  if (r.redone + r.undone > 0) flush_files(root, seam);
+  if (r.undone > 0) flush_files(root, seam);
   db.exec("DELETE FROM SaveJournal WHERE committed = 0");
   return r;
 }

@@ -72,38 +72,38 @@ class SaveJournal {
 std::filesystem::path temporary_of(const std::filesystem::path& file);
 
 // ---- The journal table of a database --------------------------------------------
-// One row an operation: the intent's number, its place in the intent, whether its
-// report row committed, the file (below the bank root when it lies there), the
-// length before and the bytes. Made when missing.
+// One row an intent: its number, whether its report row committed, and its
+// operations in their order, each with its kind, its file (below the bank root
+// when it lies there), the length before and the bytes. Made when missing.
 void create_journal_table(Database& db);
 
 // Records the intent's operations, not yet committed: a confirmation's lines,
 // whose row is saved later. Returns the intent's number.
 std::int64_t record_provisional(Database& db, const std::filesystem::path& root, const SaveJournal& j);
+
+// A committed intent and the confirmations' intents that joined it.
+struct Commit {
+  std::int64_t intent = 0;
+  std::int64_t first_joined = 0;  // the first joined intent; the intent itself when none joined
+};
 // Inside the caller's transaction (the one that commits the report's row): every
-// provisional operation joins this intent, the intent's own operations are
-// recorded, and all are marked committed. Intents older than the one before it
-// are dropped: by now a flush of the bank has put their files on the disk.
-std::int64_t record_committed(Database& db, const std::filesystem::path& root, const SaveJournal& j);
-// The intent's files are all written (not yet flushed): a later start checks
-// them and writes again only what is missing.
-void mark_applied(Database& db, std::int64_t intent);
+// provisional intent joins this save, and the save's own operations are recorded
+// as committed. Intents older than the last save's are dropped: by now a flush
+// of the bank has put their files on the disk.
+Commit record_committed(Database& db, const std::filesystem::path& root, const SaveJournal& j);
 // The intent is forgotten: its files were put back (a confirmation whose lines
 // could not all be written).
 void drop_intent(Database& db, std::int64_t intent);
-// The intent's row was rolled back and its own files put back: its own
-// operations are forgotten, and the confirmation's lines that joined it are
-// provisional again, waiting for the row's next save.
-void withdraw_intent(Database& db, std::int64_t intent);
-// True when the table holds a committed intent whose files were never all written.
-bool has_unapplied(Database& db);
+// The save's row was rolled back and its own files put back: its own operations
+// are forgotten, and the confirmation's lines that joined it are provisional
+// again, waiting for the row's next save.
+void withdraw_intent(Database& db, const Commit& c);
 
-// Finishes what a crash or a failed save left in the table, as described above.
-// At start every committed intent is checked and made again where its bytes do
-// not stand, and every provisional one is undone and forgotten; before a save
-// only the committed intents not yet applied are made. Committed intents stay
-// in the table, marked applied, until a later save's flush covers their files.
-// Counts the intents whose files had to be written or put back.
+// Finishes what a crash or a failed save left in the table. Every committed
+// intent is checked and made again where its bytes do not stand; at start every
+// provisional one is also undone and forgotten. Committed intents stay in the
+// table until a later save's flush covers their files. Counts the intents whose
+// files had to be written or put back.
 struct Recovery {
   int redone = 0;
   int undone = 0;

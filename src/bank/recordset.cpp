@@ -179,6 +179,13 @@ void Recordset::edit() {
 
 void Recordset::update() {
   if (mode_ == EditMode::None) throw BankError("Update or CancelUpdate without AddNew or Edit.");
+  // A row edited back to what it holds is not written again: the save's steps
+  // store the past-hours row at confirmation and again at the save.
+  if (mode_ == EditMode::Edit && buffer_ == row_) {
+    last_modified_ = current_;
+    mode_ = EditMode::None;
+    return;
+  }
   std::string sql;
   if (mode_ == EditMode::Add) {
     std::string names, marks;

@@ -70,6 +70,23 @@ void Database::exec(std::string_view sql) {
   }
 }
 
+Transaction::Transaction(Database& db) : db_(db) { db_.prepare("BEGIN IMMEDIATE").run(); }
+
+Transaction::~Transaction() {
+  if (!open_) return;
+  try {
+    db_.prepare("ROLLBACK").run();
+  } catch (const std::exception&) {
+    // A rollback that fails leaves the transaction to SQLite, which ends it
+    // when the connection closes; the cause is already on its way up.
+  }
+}
+
+void Transaction::commit() {
+  db_.prepare("COMMIT").run();
+  open_ = false;
+}
+
 Statement Database::prepare(std::string_view sql) {
   if (!db_) throw BankError("database not open");
   // A statement still stepping elsewhere (a walk inside a walk) gets a fresh one of

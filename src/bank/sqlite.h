@@ -95,6 +95,22 @@ class Statement {
   bool* in_use_;  // the database's mark on a kept statement; null for one of its own
 };
 
+// One write transaction, begun at once (it takes the write lock, so a row read in
+// it is the row it writes): committed by commit(), rolled back when it goes out of
+// scope uncommitted, as when an exception passes.
+class Transaction {
+ public:
+  explicit Transaction(Database& db);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  void commit();
+
+ private:
+  Database& db_;
+  bool open_ = true;
+};
+
 // A table or column name quoted for SQL ("6HOURPAST", "type Pnegar").
 std::string quote_name(std::string_view name);
 

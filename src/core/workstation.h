@@ -142,6 +142,9 @@ class Workstation {
   // The file-system seam of the bank's writers: none in the program, a test's
   // own where it stops or fails the save at a chosen call.
   FileSeam* file_seam = nullptr;
+  // A save whose row stands but whose files could not all be written: its
+  // intent is finished before the next save.
+  bool files_waiting = false;
   // Bank databases found damaged at start: kept as they are and never opened
   // for writing in this run.
   std::vector<std::filesystem::path> damaged_databases;

@@ -119,22 +119,59 @@ TEST(Journal, TwoKeptSavesOnOneFileEachStandOnce) {
   test::TempDir dir;
   const fs::path root = dir.path(), file = root / "KASHF754.dat";
   Database db(root / "Kashf.mdb", Database::Mode::Create);
-  SaveJournal first, second;
+  SaveJournal first, second, third;
   first.append(file, "first\r\n");
-  const auto a = record_committed(db, root, first);
+  record_committed(db, root, first);
   first.write();
-  mark_applied(db, a);
   second.append(file, "second\r\n");
   record_committed(db, root, second);
-  EXPECT_TRUE(has_unapplied(db));
   put(file, "first\r\nsec");  // the second save cut off mid-line
-  const Recovery r = finish_pending(db, root, nullptr, false);
-  EXPECT_EQ(r.redone, 1);
-  EXPECT_FALSE(has_unapplied(db));
+  EXPECT_EQ(finish_pending(db, root, nullptr, false).redone, 1);
   EXPECT_EQ(read_bytes(file), "first\r\nsecond\r\n");
   put(file, "");  // lost in a power cut: both are written again
-  finish_pending(db, root, nullptr, true);
+  EXPECT_EQ(finish_pending(db, root, nullptr, true).redone, 2);
   EXPECT_EQ(read_bytes(file), "first\r\nsecond\r\n");
+  // A third save drops the first, whose files its flush has covered.
+  third.append(file, "third\r\n");
+  record_committed(db, root, third);
+  third.write();
+  EXPECT_EQ(finish_pending(db, root, nullptr, true).redone, 0);
+  put(file, "first\r\n");
+  finish_pending(db, root, nullptr, true);
+  EXPECT_EQ(read_bytes(file), "first\r\nsecond\r\nthird\r\n");
+}
+
+// A save taken back leaves its confirmation's lines waiting, provisional again:
+// a restart then takes them back too.
+TEST(Journal, AWithdrawnSaveLeavesItsConfirmationWaiting) {
+  test::TempDir dir;
+  const fs::path root = dir.path(), file = root / "S754.dat", record = root / "KASHF754.dat";
+  Database db(root / "Kashf.mdb", Database::Mode::Create);
+  SaveJournal confirmation, save;
+  confirmation.append(file, "S line\r\n");
+  record_provisional(db, root, confirmation);
+  confirmation.write();
+  save.append(record, "record\r\n");
+  const Commit c = record_committed(db, root, save);
+  EXPECT_LT(c.first_joined, c.intent);
+  withdraw_intent(db, c);
+  const Recovery r = finish_pending(db, root, nullptr, true);
+  EXPECT_EQ(r.redone, 0);
+  EXPECT_EQ(r.undone, 1);
+  EXPECT_EQ(read_bytes(file), "");
+  EXPECT_FALSE(fs::exists(record));
+}
+
+// A journal row that cannot be read back is told, not half acted on.
+TEST(Journal, ADamagedRowIsTold) {
+  test::TempDir dir;
+  const fs::path root = dir.path();
+  Database db(root / "Kashf.mdb", Database::Mode::Create);
+  SaveJournal j;
+  j.append(root / "S754.dat", "line\r\n");
+  record_committed(db, root, j);
+  db.exec("UPDATE SaveJournal SET ops = substr(ops, 1, 12)");
+  EXPECT_THROW(finish_pending(db, root, nullptr, true), BankError);
 }
 
 // Missing folders, a file in a folder's place and a full disk are each told by
