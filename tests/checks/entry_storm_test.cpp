@@ -6,7 +6,7 @@
 
 #include <random>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
 #include "support/test_support.h"
 
@@ -28,7 +28,7 @@ std::string random_text(std::mt19937& rng) {
 
 TEST(EntryStorm, ChangeRulesHoldUnderRandomText) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   k.Text48.text = "12";
   const std::vector<Control*> boxes = {&k.Text1, &k.txt1, &k.Text2, &k.Text3, &k.Text40, &k.Text39, &k.TXTGUSTY,

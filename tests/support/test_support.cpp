@@ -5,7 +5,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "core/program.h"
+#include "station/program.h"
 
 namespace obsdesk::test {
 
@@ -25,24 +25,24 @@ Station::Station(DateTime now) : clock(now) {
   ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
 }
 
-Workstation& Station::start() {
+Desk& Station::start() {
   start_program(*ws);
   return *ws;
 }
 
-Workstation& Station::restart() {
+Desk& Station::restart() {
   ws.reset();
   ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
   return start();
 }
 
-Workstation& Station::open_browser() {
+Desk& Station::open_browser() {
   start();
   ws->click(ws->FrmMain.Command2);
   return *ws;
 }
 
-Workstation& Station::open_entry() {
+Desk& Station::open_entry() {
   open_browser();
   ws->show(ws->FrmKashf);
   return *ws;
