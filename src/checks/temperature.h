@@ -14,7 +14,8 @@ class Desk;
 bool ground_minimum_figures(const std::string& text, std::string& sign, std::string& value);
 
 // sss of the total snow for 4E'sss: whole centimetres in three figures, 0 as
-// "997"; "" for an empty box, "///" for "/" and "//".
+// "997"; "" for an empty box. A text that is no number ("/", "//") reads as 0
+// and so gives "997" too.
 std::string snow_depth_figures(const std::string& text);
 
 // Evaporation from the water added (cc) with the rain r, and back.

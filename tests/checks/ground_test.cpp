@@ -37,7 +37,7 @@ TEST(Ground, MinimumFiguresForTheGroundGroup) {
 }
 
 TEST(Ground, SnowDepthFigures) {
-  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"5", "005"}, {"998", "998"}, {"999", "999"}})
+  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"/", "997"}, {"//", "997"}, {"5", "005"}, {"998", "998"}, {"999", "999"}})
     EXPECT_EQ(snow_depth_figures(text), sss) << text;
 }
 
