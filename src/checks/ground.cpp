@@ -67,7 +67,8 @@ constexpr std::array<SoilDepth, 6> kSoil = {{
 void soil_leave(Desk& ws, Control& box, int row) {
   if (!is_reading(box.text)) return;
   if (!within_hard(ws, box, val(box.text), row, words::kExtremeOutOfRange)) return;
-  within_soft(ws, box, val(box.text), row, words::kConfirmTemperature);
+  // Last of the box's tests: a No has emptied the box already, nothing follows.
+  static_cast<void>(within_soft(ws, box, val(box.text), row, words::kConfirmTemperature));
 }
 
 // ---- Ground minimum and snow ------------------------------------------------------
@@ -87,7 +88,9 @@ void Text68_leave(Desk& ws) {
   Control& g = ws.FrmKashf.Text68;
   if (!is_reading(g.text)) return;
   if (!within_hard(ws, g, val(g.text), kGround, words::kExtremeOutOfRange)) return;
-  ground_minimum_figures(g.text, ws.GroundSign, ws.GroundTemp);
+  // A reading always gives figures; the earlier ones are kept only for a text
+  // that is none, which is_reading has turned away above.
+  if (!ground_minimum_figures(g.text, ws.GroundSign, ws.GroundTemp)) return;
 }
 
 // The soft pair of the ground minimum, asked as the next boxes are entered.

@@ -73,7 +73,7 @@ void Text27_change(Desk& ws) {
 void Text27_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
-  // 1. A METAR continues the last main report three hours on.
+  // A METAR continues the last main report three hours on.
   if (k.Combo5.text == kMetar) {
     const double hour = val(k.Text1.text);
     const bool follows = m.txtutcpast.text == "21" ? hour == 0 : hour == val(m.txtutcpast.text) + 3;
@@ -84,22 +84,23 @@ void Text27_enter(Desk& ws) {
       return;
     }
   }
-  // 2.
+  // The hour is stored in two figures.
   if (len(k.Text1.text) == 1) ws.set(k.Text1, "0" + k.Text1.text);
-  // 3. Whatever was derived from the old readings goes.
+  // Whatever was derived from the old readings goes.
   empty_derived(ws);
-  // 4. A sky hidden by fog needs its vertical visibility.
+  // A sky hidden by fog needs its vertical visibility.
   if (!twelve_hour_station(ws) && k.Text5.text == "9" && k.Text12.text.empty()) {
     ws.error(words::kEnterVerticalVisibility);
     ws.focus(k.Text12);
     return;
   }
-  // 5. The temperature of twelve hours before.
+  // The temperature of twelve hours before.
   Control& t12 = k.txtt12;
   if (len(t12.text) == 1 && is_digit(t12.text)) ws.set(t12, "0" + t12.text);
   if (!t12.text.empty() && t12.text != "-") {
+    // A No empties the box; nothing follows either way.
     if (within_hard(ws, t12, val(t12.text), kAir, words::kTemperatureOutOfRange))
-      within_soft(ws, t12, val(t12.text), kAir, words::kConfirmBoxBefore);
+      static_cast<void>(within_soft(ws, t12, val(t12.text), kAir, words::kConfirmBoxBefore));
   }
 }
 
@@ -127,18 +128,19 @@ void Text27_leave(Desk& ws) {
   FrmMain& m = ws.FrmMain;
   Control& tdry = k.Text27;
   const std::string hour = k.Text1.text.empty() ? k.txt1.text : k.Text1.text;
-  // 1.
+  // With an hour given, a dry bulb outside the air's hard pair is refused and
+  // nothing below runs, so no table takes a value that was turned away.
   if (!hour.empty() && is_reading(tdry.text) &&
       !within_hard(ws, tdry, val(tdry.text), kAir, words::kTemperatureOutOfRange))
     return;
-  // 2. The barometer box of the station.
+  // The barometer box of the station.
   if (val(ws.FrmOption.txtPnegar.text) == 1) {
     k.FraNegar.visible = true;
   } else {
     k.FraNegar.visible = false;
     k.Text14.visible = true;
   }
-  // 3. The day's table of temperatures that this report writes back.
+  // The day's table of temperatures that this report writes back.
   const int index = k.Text1.text.empty() ? -1 : main_hour_index(int_val(k.Text1.text));
   const bool keeps_table =
       k.Combo5.text == kSynMet || (k.Combo5.text == kSynop && twelve_hour_station(ws));
@@ -163,7 +165,8 @@ void Text28_enter(Desk& ws) {
   if (!is_reading(tdry.text)) return;
   ws.set(tdry, round_text(val(tdry.text), 1));
   if (!within_hard(ws, tdry, val(tdry.text), kAir, words::kTemperatureOutOfRange)) return;
-  within_soft(ws, tdry, val(tdry.text), kAir, words::kConfirmBoxBefore);
+  // A No empties the dry bulb; the wet bulb is begun either way.
+  static_cast<void>(within_soft(ws, tdry, val(tdry.text), kAir, words::kConfirmBoxBefore));
 }
 
 void Text28_leave(Desk& ws) {

@@ -11,7 +11,7 @@ class Desk;
 // Sign figure and two-figure value of the ground minimum for 3EsnTgTg: a value
 // ending in 5 is moved 0.1 away from zero before it is rounded. False for a text
 // that is not a reading ("/", "", ".", "-").
-bool ground_minimum_figures(const std::string& text, std::string& sign, std::string& value);
+[[nodiscard]] bool ground_minimum_figures(const std::string& text, std::string& sign, std::string& value);
 
 // sss of the total snow for 4E'sss: whole centimetres in three figures, 0 as
 // "997"; "" for an empty box. A text that is no number ("/", "//") reads as 0
