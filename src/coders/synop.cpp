@@ -170,7 +170,7 @@ void synop_date_step(Desk& ws, std::string_view station_kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
   // The hour of the clock when the date boxes were filled: the date they hold is
-  // the one this step corrects.
+  // the one the report's date is moved on from.
   const int hour = ws.date_boxes_hour >= 0 ? ws.date_boxes_hour : ws.now().hour;
   if (ws.FrmOption.Combo1.text != station_kind || hour != clock_hour) return;
   bool hour_matches = false;
