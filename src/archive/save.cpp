@@ -17,6 +17,7 @@
 #include "archive/copy_out.h"
 #include "core/textnum.h"
 #include "screens/desk.h"
+#include "screens/entry.h"
 #include "calendar/calendar.h"
 
 namespace obsdesk {
@@ -114,14 +115,12 @@ void scdata_lines(Desk& ws, SaveJournal& journal) {
   const std::string s = ws.FrmCode.TXTSCDATA.text;
   const std::string g = ws.FrmCode.TXTgolbad.text;
   const std::string kind = k.Combo5.text;
-  const bool twelve_hour = ws.FrmOption.Combo1.text == kStation12;
-  const long hour = number(k.Text1.text);
   auto to = [&](const std::string& name, const std::string& line) {
     journal.append(bank_file(ws, name), line_bytes(line));
   };
 
-  if (twelve_hour && kind == kSpeci) return;
-  if (twelve_hour && one_of(hour, {18, 21, 0})) {
+  if (twelve_hour_station(ws) && kind == kSpeci) return;
+  if (twelve_hour_night(ws)) {
     // No daily record at these hours of a 12-hour station: no IT line.
     to(n.monthG, g);
     to(n.totalG, g);

@@ -327,7 +327,7 @@ void rainfall_rule(Desk& ws) {
   if (is_metar_kind(report_kind(ws))) {
     ws.focus(k.Text74);
   } else if (hour_is(ws, {"00", "0", "06", "6", "09", "9", "12", "18", "21"})) {
-    const bool twelve = station_kind(ws) == kStation12;
+    const bool twelve = twelve_hour_station(ws);
     k.Text42.visible = twelve;
     k.Text50.visible = !twelve;
     ws.focus(twelve ? static_cast<Control&>(k.Text42) : k.Text50);

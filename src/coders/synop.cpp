@@ -1,6 +1,8 @@
 #include "coders/synop.h"
 
+#include "checks/temperature.h"
 #include "coders/code_panel.h"
+#include "coders/metar.h"
 #include "coders/coder_common.h"
 #include "coders/synop_groups.h"
 #include "coders/synop_sections.h"
@@ -100,7 +102,7 @@ bool section3_and_5(Desk& ws, const std::string& hour) {
 
   ws.set(p.Text97, std::string(kBlankGroup));
   if (!k.Text53.text.empty() && hour == "06") set_group(ws, p.Text97, rain24_group(k.Text53.text));
-  if (const auto g = ground_minimum(k.Text68.text)) {
+  if (const auto g = ground_minimum(k.Text68.text, coder_number)) {
     ws.GroundSign = g->sign;
     ws.GroundTemp = g->temp;
   }
@@ -150,18 +152,6 @@ std::string golbad_line(Desk& ws) {
   FrmCode& p = ws.FrmCode;
   return ws.FrmOption.NUMCOD.text + mid(p.TXTYEARmi.text, 3, 2) + p.TXTMONTHMI.text + p.TXTDAYmi.text +
          p.Text75.text + "***" + p.Text34.text + "*******";
-}
-
-// The observer may be chosen once the report kind's coders have run.
-void enable_observer(Desk& ws) {
-  FrmKashf& k = ws.FrmKashf;
-  const std::string& kind = k.Combo5.text;
-  bool on = false;
-  if (kind == kMetar || kind == kMetar30) on = ws.METAR_coded == 1;
-  else if (kind == kSynop) on = ws.SYNOP_coded == 1;
-  else if (kind == kSpeci) on = ws.SPECI_coded == 1;
-  else if (kind == kSynMet) on = ws.METAR_coded * ws.SYNOP_coded == 1;
-  if (on) k.Combo7.enabled = true;
 }
 
 }  // namespace
@@ -342,7 +332,7 @@ void run_synop(Desk& ws) {
     forget_synop(ws);
     return;
   }
-  enable_observer(ws);
+  open_observer_list(ws);
 }
 
 void wire_synop(Desk& ws) {

@@ -55,13 +55,6 @@ void compact_cloud_boxes(CloudBoxes& boxes, std::string_view valuel1);
 // 7R24R24R24R24 from the rain of 24 hours.
 std::optional<std::string> rain24_group(std::string_view rain);
 
-// The ground minimum as the state-of-ground picker keeps it: sign figure and
-// two figures of whole degrees; nullopt for "/", "", "." and "-".
-struct GroundMinimum {
-  std::string sign, temp;
-};
-std::optional<GroundMinimum> ground_minimum(std::string_view text);
-
 // 4E'sss: E' of the state of ground, sss of the total snow in cm.
 std::string snow_group(std::string_view ground_code, std::string_view snow);
 
