@@ -40,6 +40,13 @@ Reading check_reading(Desk& ws, Control& box, bool empty_on_refusal);
 // focus back. True when it stands.
 [[nodiscard]] bool attached_thermometer_ok(Desk& ws, double hard_max);
 
+// The pressure side of the thermometer boxes, bound with their other handlers
+// in one place (bind_temperature_checks):
+void Text13_key_enter(Desk& ws);    // TP: tested, then the barometer box
+void Text28_key_enter(Desk& ws);    // TWET: against the dry bulb, then the routine
+void thermometer_key_up(Desk& ws);  // TDRY, TWET, TP: the routine once all stand
+void txtt12_key_up(Desk& ws);       // txtt12: the same, the reduction's T12
+
 void bind_pressure_entry(Desk& ws);
 
 }  // namespace obsdesk

@@ -307,6 +307,9 @@ void Text18_change(Desk& ws) {
 
 }  // namespace
 
+// Every handler of the dry, wet and attached thermometers and of txtt12 is
+// bound here, the pressure routine's among them, so one place shows all that
+// a key in those boxes sets off.
 void bind_temperature_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text27.on(Event::Change, Text27_change);
@@ -315,10 +318,14 @@ void bind_temperature_checks(Desk& ws) {
   k.Text27.on(Event::Leave, Text27_leave);
   k.Text28.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text28, false); });
   k.Text28.on(Event::Enter, Text28_enter);
+  k.Text28.on(Event::KeyEnter, Text28_key_enter);
   k.Text28.on(Event::Leave, Text28_leave);
   k.Text13.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text13, false); });
+  k.Text13.on(Event::KeyEnter, Text13_key_enter);
+  for (Control* c : Controls{&k.Text27, &k.Text28, &k.Text13}) c->on(Event::KeyUp, thermometer_key_up);
   k.txtt12.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.txtt12, false); });
   k.txtt12.on(Event::KeyEnter, txtt12_key_enter);
+  k.txtt12.on(Event::KeyUp, txtt12_key_up);
   k.Text59.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text59, false); });
   k.Text60.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text60, false); });
   k.Text59.on(Event::Enter, Text59_enter);
