@@ -8,9 +8,10 @@
 #include <string>
 
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/recordset.h"
 #include "bank/sqlite.h"
-#include "core/record.h"
+#include "screens/record.h"
 
 namespace {
 

@@ -8,8 +8,9 @@
 
 #include "archive/text_archive.h"
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/record.h"
+#include "screens/record.h"
 
 namespace obsdesk::bench {
 

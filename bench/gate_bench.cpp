@@ -6,7 +6,7 @@
 
 #include "coders/syntax_gate.h"
 #include "core/services.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 #include <string>
 
 #include "bench_bank.h"
-#include "core/program.h"
-#include "core/record.h"
-#include "core/workstation.h"
+#include "station/program.h"
+#include "screens/record.h"
+#include "station/workstation.h"
 
 namespace {
 
@@ -33,14 +33,14 @@ void fill_archive(const fs::path& root, int reports) {
   flush_bank(root);
 }
 
-struct Desk {
+struct Rig {
   QueueAsker asker;
   FixedClock clock{{2024, 3, 20, 5, 40, 0}};
   MemoryClipboard clipboard;
   std::unique_ptr<Workstation> ws;
 };
 
-void one_save(Workstation& ws) {
+void one_save(Desk& ws) {
   ws.click(ws.FrmDisplayKashf.newW);
   FrmKashf& k = ws.FrmKashf;
   k.Combo5.text = std::string(kSynop);
@@ -63,7 +63,7 @@ void one_save(Workstation& ws) {
 void BM_ConfirmAndSave(benchmark::State& state) {
   const fs::path root = bench::temp_bank("obsdesk-save-bench");
   fill_archive(root, static_cast<int>(state.range(0)));
-  Desk d;
+  Rig d;
   d.ws = std::make_unique<Workstation>(root, Services{d.asker, d.clock, d.clipboard});
   start_program(*d.ws);
   d.ws->click(d.ws->FrmMain.Command2);

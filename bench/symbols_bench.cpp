@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 #include "symbols/station_model.h"
 #include "symbols/symbols.h"
 

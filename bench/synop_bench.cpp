@@ -8,15 +8,15 @@
 
 #include "coders/code_panel.h"
 #include "coders/synop.h"
-#include "core/program.h"
+#include "station/program.h"
 #include "core/services.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-void fill(obsdesk::Workstation& ws) {
+void fill(obsdesk::Desk& ws) {
   const std::pair<const char*, const char*> values[] = {
       {"TXTYEARmi", "2024"}, {"TXTMONTHMI", "03"}, {"TXTDAYmi", "20"}, {"TXTYEARsh", "1403"},
       {"TXTMONTHSH", "01"}, {"TXTDAYsh", "01"}, {"Text1", "06"}, {"Combo5", "SYNOP    "}, {"Text48", "12"},

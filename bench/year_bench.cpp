@@ -16,9 +16,9 @@
 
 #include "bench_bank.h"
 #include "coders/bufr.h"
-#include "core/program.h"
-#include "core/record.h"
-#include "core/workstation.h"
+#include "station/program.h"
+#include "screens/record.h"
+#include "station/workstation.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ std::uintmax_t folder_size(const fs::path& root) {
   return total;
 }
 
-struct Desk {
+struct Rig {
   QueueAsker asker;
   FixedClock clock{{2023, 2, 1, 0, 5, 0}};
   MemoryClipboard clipboard;
@@ -50,7 +50,7 @@ std::string two(int n) {
 
 // One report of the hour, typed as an observer types it; false when the screens
 // refused it (the reason is in the messages).
-bool one_report(Workstation& ws, int hour) {
+bool one_report(Desk& ws, int hour) {
   const bool synoptic = hour % 3 == 0;
   FrmKashf& k = ws.FrmKashf;
   ws.click(ws.FrmDisplayKashf.newW);
@@ -92,7 +92,7 @@ void BM_YearOfWork(benchmark::State& state) {
     state.PauseTiming();
     const fs::path root = bench::temp_bank("obsdesk-year-bench");
     bench::fill_kashf(root, kArchiveYears * kYearReports, 997);  // twenty years of hourly rows
-    Desk d;
+    Rig d;
     d.ws = std::make_unique<Workstation>(root, Services{d.asker, d.clock, d.clipboard});
     start_program(*d.ws);
     d.ws->click(d.ws->FrmMain.Command2);

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "../bench_bank.h"
-#include "core/program.h"
-#include "core/workstation.h"
+#include "station/program.h"
+#include "station/workstation.h"
 #include "desktop/app.h"
 #include "desktop/binder.h"
 

@@ -4,11 +4,11 @@
 
 #include "archive/text_archive.h"
 #include "bank/bank.h"
-#include "core/program.h"
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "archive/search.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -25,7 +25,7 @@ bool on_row(const Recordset& rs) { return rs.is_open() && !rs.eof() && !rs.bof()
 
 // The browser's moves run under one trap: the description goes to a message box.
 template <typename F>
-void trapped(Workstation& ws, F&& f) {
+void trapped(Desk& ws, F&& f) {
   try {
     f();
   } catch (const UsageError&) {
@@ -35,7 +35,7 @@ void trapped(Workstation& ws, F&& f) {
   }
 }
 
-void FrmDisplayKashf_load(Workstation& ws) {
+void FrmDisplayKashf_load(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.set(b.Text44, station_heading(ws));
   b.KASHF.open(ws, resolve_bank_path(ws.bank_root(), ws.FrmMain.txtpathnamebank1.text), "KASHF");
@@ -51,7 +51,7 @@ void keep_row(FrmDisplayKashf& b) {
 }
 
 // Back to the kept row; a row deleted meanwhile gives way to the last one.
-void restore_row(Workstation& ws) {
+void restore_row(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   if (b.kept_row) {
     try {
@@ -65,7 +65,7 @@ void restore_row(Workstation& ws) {
 
 enum class Move { Next, Previous, Last };
 
-void move(Workstation& ws, Move m) {
+void move(Desk& ws, Move m) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   if (m == Move::Last) b.KASHF.caption = "The Last Record";
   trapped(ws, [&] {
@@ -92,7 +92,7 @@ void move(Workstation& ws, Move m) {
 
 }  // namespace
 
-void search_kashf(Workstation& ws, const std::string& text) {
+void search_kashf(Desk& ws, const std::string& text) {
   if (text.empty()) return;
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   trapped(ws, [&] {
@@ -110,7 +110,7 @@ void search_kashf(Workstation& ws, const std::string& text) {
 
 namespace {
 
-void Command1_click(Workstation& ws) {  // delete the row
+void Command1_click(Desk& ws) {  // delete the row
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   if (!ws.ask(kDeleteQuestion)) return;
   trapped(ws, [&] {
@@ -123,7 +123,7 @@ void Command1_click(Workstation& ws) {  // delete the row
 
 // ---- A new report -----------------------------------------------------------------
 
-void newW_click(Workstation& ws) {
+void newW_click(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   FrmMain& m = ws.FrmMain;
   trapped(ws, [&] {
@@ -151,7 +151,7 @@ void newW_click(Workstation& ws) {
 
 // ---- The display follows the row --------------------------------------------------
 
-void TXTYYMMDDTT_change(Workstation& ws) {
+void TXTYYMMDDTT_change(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   const KashfNames n = kashf_names(station_folder(ws), station_nnn(ws.FrmOption.NUMCOD.text), b.TXTYYMMDDTT.text);
   ws.set(b.TXTFILENAMEKASHF, n.day);
@@ -159,7 +159,7 @@ void TXTYYMMDDTT_change(Workstation& ws) {
   ws.set(b.TXTFILENAMEKASHFT, n.total);
 }
 
-void TXTSEL_change(Workstation& ws) {
+void TXTSEL_change(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   const std::string& kind = b.TXTSEL.text;
   const bool metar_like = is_metar_kind(kind);
@@ -181,7 +181,7 @@ void TXTSEL_change(Workstation& ws) {
   for (Control* c : Controls{&b.Frame16, &b.Label42, &b.txtmin}) c->visible = !metar_like;
 }
 
-void Text1_change(Workstation& ws) {
+void Text1_change(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   const long hour = int_val(b.Text1.text);
   const bool main_hour = hour % 3 == 0;
@@ -194,7 +194,7 @@ void Text1_change(Workstation& ws) {
   }
 }
 
-void Text5_change(Workstation& ws) {
+void Text5_change(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   // The stored amount is padded to its width: "0 " is no cloud as "0" is.
   const std::string n = trim(b.Text5.text);
@@ -205,27 +205,27 @@ void Text5_change(Workstation& ws) {
 
 }  // namespace
 
-void set_browsing(Workstation& ws, bool browsing) {
+void set_browsing(Desk& ws, bool browsing) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   for (Control* c : Controls{&b.newW, &b.nextt, &b.back, &b.last, &b.search}) c->enabled = browsing;
   b.save.enabled = !browsing;
   b.Command1.visible = browsing;
 }
 
-void wire_browser(Workstation& ws) {
+void wire_browser(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   b.on(ScreenEvent::Load, FrmDisplayKashf_load);
-  b.Image11.on(Event::Click, [](Workstation& w) {
+  b.Image11.on(Event::Click, [](Desk& w) {
     // The delete comes back with the return from the start screen.
     w.FrmDisplayKashf.Command1.visible = !w.FrmDisplayKashf.save.enabled;
     w.hide(w.FrmDisplayKashf);
     w.show(w.FrmMain);
   });
   b.newW.on(Event::Click, newW_click);
-  b.nextt.on(Event::Click, [](Workstation& w) { move(w, Move::Next); });
-  b.back.on(Event::Click, [](Workstation& w) { move(w, Move::Previous); });
-  b.last.on(Event::Click, [](Workstation& w) { move(w, Move::Last); });
-  b.search.on(Event::Click, [](Workstation& w) { open_find_dialog(w, search_kashf); });
+  b.nextt.on(Event::Click, [](Desk& w) { move(w, Move::Next); });
+  b.back.on(Event::Click, [](Desk& w) { move(w, Move::Previous); });
+  b.last.on(Event::Click, [](Desk& w) { move(w, Move::Last); });
+  b.search.on(Event::Click, [](Desk& w) { open_find_dialog(w, search_kashf); });
   b.Command1.on(Event::Click, Command1_click);
   b.TXTYYMMDDTT.on(Event::Change, TXTYYMMDDTT_change);
   b.TXTSEL.on(Event::Change, TXTSEL_change);

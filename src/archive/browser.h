@@ -7,16 +7,16 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 
 // The buttons of the two states: browsing (moves, search, new report and delete
 // open, save closed) or a report in progress (the reverse).
-void set_browsing(Workstation& ws, bool browsing);
+void set_browsing(Desk& ws, bool browsing);
 
 // The search with the text the find dialog gave: the first row whose key text
 // holds it anywhere; "" does nothing.
-void search_kashf(Workstation& ws, const std::string& text);
+void search_kashf(Desk& ws, const std::string& text);
 
-void wire_browser(Workstation& ws);
+void wire_browser(Desk& ws);
 
 }  // namespace obsdesk

@@ -6,21 +6,17 @@
 #include <stdexcept>
 
 #include "archive/copy_out.h"
-#include "archive/frm_bufr.h"
+#include "screens/dialogs.h"
 #include "archive/text_archive.h"
 #include "bank/bank.h"
 #include "bank/journal.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
 namespace fs = std::filesystem;
 
-FrmBUFR::FrmBUFR() : Screen("FrmBUFR") {
-  caption = "BUFR";
-  Text1.locked = true;
-}
 
 namespace {
 
@@ -37,7 +33,7 @@ std::optional<double> number(const std::string& text) {
   return val(t);
 }
 
-std::string latest_name(Workstation& ws) { return trim(ws.FrmMain.LabName.text) + "\\" + kSynopBufr; }
+std::string latest_name(Desk& ws) { return trim(ws.FrmMain.LabName.text) + "\\" + kSynopBufr; }
 
 std::string read_all(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
@@ -47,7 +43,7 @@ std::string read_all(const fs::path& file) {
 
 // The reader: SYNOP.BUFR decoded by ecCodes, its values in words. A missing or
 // damaged file is told in a message box.
-void cmdBUFR_click(Workstation& ws) {
+void cmdBUFR_click(Desk& ws) {
   try {
     const auto reports = decode_bufr(read_all(bank_file(ws, latest_name(ws))));
     if (reports.empty()) throw std::runtime_error("No BUFR message in " + std::string(kSynopBufr));
@@ -62,14 +58,14 @@ void cmdBUFR_click(Workstation& ws) {
 
 // The copy-out dialog hands over where the message lies, for the program that
 // sends it.
-void Command6_click(Workstation& ws) {
+void Command6_click(Desk& ws) {
   ws.clipboard().clear();
   ws.clipboard().set_text(bank_file(ws, latest_name(ws)).string());
 }
 
 }  // namespace
 
-BufrReport bufr_report(Workstation& ws) {
+BufrReport bufr_report(Desk& ws) {
   const FrmDisplayKashf& b = ws.FrmDisplayKashf;
   const FrmOption& o = ws.FrmOption;
   BufrReport r;
@@ -89,12 +85,12 @@ BufrReport bufr_report(Workstation& ws) {
   return r;
 }
 
-std::string bufr_day_file(Workstation& ws) {
+std::string bufr_day_file(Desk& ws) {
   const std::string key = trim(ws.FrmDisplayKashf.TXTYYMMDDTT.text);
   return station_folder(ws) + "\\TEXT\\BUFR\\B" + station_nnn(ws.FrmOption.NUMCOD.text) + left(key, 6) + ".BUFR";
 }
 
-void add_synop_bufr(Workstation& ws, SaveJournal& journal) {
+void add_synop_bufr(Desk& ws, SaveJournal& journal) {
   const std::string message = encode_bufr(bufr_report(ws));
   journal.replace(bank_file(ws, latest_name(ws)), message);
   const fs::path day = bank_file(ws, bufr_day_file(ws));
@@ -105,10 +101,10 @@ void add_synop_bufr(Workstation& ws, SaveJournal& journal) {
   journal.append(day, message);
 }
 
-void wire_bufr(Workstation& ws) {
+void wire_bufr(Desk& ws) {
   ws.FrmDisplayKashf.cmdBUFR.on(Event::Click, cmdBUFR_click);
   ws.FrmPol.Command6.on(Event::Click, Command6_click);
-  ws.FrmBUFR.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmBUFR); });
+  ws.FrmBUFR.Command1.on(Event::Click, [](Desk& w) { w.hide(w.FrmBUFR); });
 }
 
 }  // namespace obsdesk

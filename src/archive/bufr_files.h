@@ -10,7 +10,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 class SaveJournal;
 
 inline constexpr const char* kSynopBufr = "SYNOP.BUFR";
@@ -18,14 +18,14 @@ inline constexpr const char* kSynopBufr = "SYNOP.BUFR";
 // The report of the row the browser shows: the station from the profile, the
 // time from the date boxes and the hour, the values from its SYNOP text and its
 // humidity.
-BufrReport bufr_report(Workstation& ws);
+BufrReport bufr_report(Desk& ws);
 
 // The day's file of the report's key text, as a system name below the bank root.
-std::string bufr_day_file(Workstation& ws);
+std::string bufr_day_file(Desk& ws);
 
 // Lists in the save's journal SYNOP.BUFR written anew and the message added to
 // the day's file; the day's folder is made when it is missing. Throws when the
 // message cannot be made.
-void add_synop_bufr(Workstation& ws, SaveJournal& journal);
+void add_synop_bufr(Desk& ws, SaveJournal& journal);
 
 }  // namespace obsdesk

@@ -2,9 +2,9 @@
 
 #include "archive/text_archive.h"
 #include "bank/journal.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -71,7 +71,7 @@ std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields&
   return out;
 }
 
-BulletinFields bulletin_fields(Workstation& ws) {
+BulletinFields bulletin_fields(Desk& ws) {
   const FrmDisplayKashf& b = ws.FrmDisplayKashf;
   BulletinFields f;
   f.cccc = ws.FrmOption.TXTCOD.text;
@@ -90,7 +90,7 @@ BulletinFields bulletin_fields(Workstation& ws) {
   return f;
 }
 
-void add_bulletins(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
+void add_bulletins(Desk& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
   for (const Bulletin& b : bulletins) {
     const std::string name = trim(ws.FrmMain.LabName.text) + "\\" + b.file;
     ws.set(ws.FrmDisplayKashf.txtpathnamebank, name);

@@ -10,7 +10,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 class SaveJournal;
 
 // What the envelopes are made of.
@@ -36,10 +36,10 @@ std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields&
 
 // The fields from the browser, the station profile, the code panel and the
 // report lines.
-BulletinFields bulletin_fields(Workstation& ws);
+BulletinFields bulletin_fields(Desk& ws);
 
 // Each bulletin joins the save's journal as a file replaced whole: the old
 // bulletin stays until the new one is complete.
-void add_bulletins(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins);
+void add_bulletins(Desk& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins);
 
 }  // namespace obsdesk

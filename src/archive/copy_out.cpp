@@ -5,23 +5,18 @@
 #include <stdexcept>
 
 #include "bank/bank.h"
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
-FrmPol::FrmPol() : Screen("FrmPol") {
-  caption = "Copy";
-  Text.visible = false;
-}
 
 namespace {
 
 // The whole of a bulletin file of the program's folder, as text. A missing file
 // fails with the runtime's words.
-std::string read_bulletin(Workstation& ws, const char* name) {
+std::string read_bulletin(Desk& ws, const char* name) {
   const std::string prog = trim(ws.FrmMain.LabName.text);
   const auto path = resolve_bank_path(ws.bank_root(), prog + "\\" + name);
   std::ifstream in(path, std::ios::binary);
@@ -32,7 +27,7 @@ std::string read_bulletin(Workstation& ws, const char* name) {
 
 // Each copy has its own trap: a failure is told in a message box and the
 // clipboard keeps what it had.
-void copy_one(Workstation& ws, const char* name) {
+void copy_one(Desk& ws, const char* name) {
   try {
     ws.set(ws.FrmPol.Text, read_bulletin(ws, name));
     ws.clipboard().clear();
@@ -43,7 +38,7 @@ void copy_one(Workstation& ws, const char* name) {
 }
 
 // The METAR bulletin, then the SYNOP one added behind it.
-void Command5_click(Workstation& ws) {
+void Command5_click(Desk& ws) {
   try {
     ws.set(ws.FrmPol.Text, read_bulletin(ws, "METAR.DAT"));
     ws.clipboard().clear();
@@ -56,7 +51,7 @@ void Command5_click(Workstation& ws) {
   }
 }
 
-void Command1_click(Workstation& ws) {
+void Command1_click(Desk& ws) {
   ws.hide(ws.FrmPol);
   ws.show(ws.FrmDisplayKashf);
   ws.clipboard().clear();
@@ -66,7 +61,7 @@ void Command1_click(Workstation& ws) {
 }  // namespace
 
 // Opens with an empty clipboard and the buttons of the report kind just saved.
-void open_copy_out(Workstation& ws) {
+void open_copy_out(Desk& ws) {
   FrmPol& p = ws.FrmPol;
   const std::string& kind = ws.FrmDisplayKashf.TXTSEL.text;
   ws.clipboard().clear();
@@ -77,12 +72,12 @@ void open_copy_out(Workstation& ws) {
   ws.show(p);
 }
 
-void wire_copy_out(Workstation& ws) {
+void wire_copy_out(Desk& ws) {
   FrmPol& p = ws.FrmPol;
   p.Command1.on(Event::Click, Command1_click);
-  p.Command2.on(Event::Click, [](Workstation& w) { copy_one(w, "METAR.DAT"); });
-  p.Command3.on(Event::Click, [](Workstation& w) { copy_one(w, "SYNOP.DAT"); });
-  p.Command4.on(Event::Click, [](Workstation& w) { copy_one(w, "SPECI.DAT"); });
+  p.Command2.on(Event::Click, [](Desk& w) { copy_one(w, "METAR.DAT"); });
+  p.Command3.on(Event::Click, [](Desk& w) { copy_one(w, "SYNOP.DAT"); });
+  p.Command4.on(Event::Click, [](Desk& w) { copy_one(w, "SPECI.DAT"); });
   p.Command5.on(Event::Click, Command5_click);
 }
 

@@ -1,9 +1,9 @@
 #include "archive/past_hours.h"
 
 #include "bank/bank.h"
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -17,20 +17,6 @@ const char* kSavedRestart = " تغييرات ثبت شد لطفا برنامه �
 
 }  // namespace
 
-FrmWP::FrmWP() : Screen("FrmWP") {
-  caption = "Past Weather";
-  family = {&Text1,  &Text2,  &Text3,  &Text4,  &Text5,  &Text6,  &Text7,  &Text8,
-            &Text9,  &Text10, &Text11, &Text12, &Text13, &Text14, &Text15, &Text16,
-            &Text17, &Text18, &Text19, &Text20, &Text21, &Text22, &Text23, &Text24};
-  Txt.visible = false;
-  static const char* hours[] = {"00", "03", "06", "09", "12", "15", "18", "21"};
-  for (std::size_t i = 0; i < 8; ++i) {
-    Data1.bind(*family[i], std::string("T") + hours[i]);
-    Data1.bind(*family[8 + i], std::string("RAIN") + hours[i]);
-    Data1.bind(*family[16 + i], std::string("QFE") + hours[i] + "B");
-  }
-  Data1.bind(Text25, "utcpastb");
-}
 
 bool past_value_ok(const std::string& text) {
   bool point = false;
@@ -72,19 +58,19 @@ Family family_of(std::size_t index) {
 
 // A refused value: the words on the panel, the box emptied and the focus back
 // in it, to be typed again.
-void refuse(Workstation& ws, TextBox& box, const char* words) {
+void refuse(Desk& ws, TextBox& box, const char* words) {
   ws.error(words);
   ws.set(box, "");
   ws.focus(box);
 }
 
-void Text25_change(Workstation& ws) {
+void Text25_change(Desk& ws) {
   TextBox& t = ws.FrmWP.Text25;
   ws.set(t, past_hour_text(t.text));
 }
 
 // Saved: the Past row and the start screen's copy of it, then the editor closes.
-void Command1_click(Workstation& ws) {
+void Command1_click(Desk& ws) {
   FrmWP& p = ws.FrmWP;
   Recordset& rs = p.Data1.rs;
   if (rs.eof() || rs.bof()) rs.add_new();
@@ -96,33 +82,33 @@ void Command1_click(Workstation& ws) {
   ws.unload(p);
 }
 
-void FrmWP_load(Workstation& ws) {
+void FrmWP_load(Desk& ws) {
   const std::string prog = trim(ws.FrmMain.LabName.text);
   ws.FrmWP.Data1.open(ws, resolve_bank_path(ws.bank_root(), prog + "\\Bank\\Access\\Past.mdb"), "Past");
 }
 
 }  // namespace
 
-void open_past_hours_editor(Workstation& ws) { ws.show(ws.FrmWP); }
+void open_past_hours_editor(Desk& ws) { ws.show(ws.FrmWP); }
 
-void wire_past_hours(Workstation& ws) {
+void wire_past_hours(Desk& ws) {
   FrmWP& p = ws.FrmWP;
   p.on(ScreenEvent::Load, FrmWP_load);
   for (std::size_t i = 0; i < p.family.size(); ++i) {
     TextBox* box = p.family[i];
     const Family words = family_of(i);
     Control* next = i + 1 < p.family.size() ? static_cast<Control*>(p.family[i + 1]) : &p.Command1;
-    box->on(Event::Change, [box, words](Workstation& w) {
+    box->on(Event::Change, [box, words](Desk& w) {
       if (!past_value_ok(box->text)) refuse(w, *box, words.on_change);
     });
-    box->on(Event::Leave, [box, words](Workstation& w) {
+    box->on(Event::Leave, [box, words](Desk& w) {
       if (!past_value_ok(box->text)) refuse(w, *box, words.on_leave);
     });
-    box->on(Event::Enter, [box](Workstation& w) { w.FrmWP.Txt.text = box->text; });
-    box->on(Event::KeyEnter, [next](Workstation& w) { w.focus(*next); });
+    box->on(Event::Enter, [box](Desk& w) { w.FrmWP.Txt.text = box->text; });
+    box->on(Event::KeyEnter, [next](Desk& w) { w.focus(*next); });
   }
   p.Text25.on(Event::Change, Text25_change);
-  p.Text25.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmWP.Text1); });
+  p.Text25.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmWP.Text1); });
   p.Command1.on(Event::Click, Command1_click);
 }
 

@@ -12,11 +12,12 @@
 #include "archive/text_archive.h"
 #include "bank/journal.h"
 #include "bank/sqlite.h"
-#include "core/key_text.h"
-#include "core/record.h"
-#include "core/seams.h"
+#include "calendar/key_text.h"
+#include "screens/record.h"
+#include "archive/copy_out.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "calendar/calendar.h"
 
 namespace obsdesk {
 
@@ -42,7 +43,7 @@ bool one_of(long v, std::initializer_list<long> set) {
 // ---- Confirmation, step by step ------------------------------------------------
 
 // Step 1: both leap flags by the Gregorian rule, the Persian year too.
-void leap_flags(Workstation& ws) {
+void leap_flags(Desk& ws) {
   CalendarState& c = ws.calendar;
   c.GLeapThis = 0;
   c.SLeapA = 0;
@@ -50,14 +51,14 @@ void leap_flags(Workstation& ws) {
   c.SLeapA = gregorian_leap(int_val(ws.FrmKashf.TXTYEARsh.text)) ? 1 : 0;
 }
 
-void put_date(Workstation& ws, TextBox& day, TextBox& month, TextBox& year, const DateTexts& d) {
+void put_date(Desk& ws, TextBox& day, TextBox& month, TextBox& year, const DateTexts& d) {
   ws.set(day, d.day);
   ws.set(month, d.month);
   ws.set(year, d.year);
 }
 
 // Step 2: a date one day past its month's end, Gregorian first.
-void repair_dates(Workstation& ws) {
+void repair_dates(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   put_date(ws, k.TXTDAYmi, k.TXTMONTHMI, k.TXTYEARmi,
            repair_gregorian({k.TXTDAYmi.text, k.TXTMONTHMI.text, k.TXTYEARmi.text}, ws.calendar.GLeapThis == 1));
@@ -69,7 +70,7 @@ void repair_dates(Workstation& ws) {
 // Step 4: the past-hours row takes this report's temperature and QFE at its
 // main hour and the working copies at the others; the rain comes from the
 // working copies alone.
-void roll_past_hours(Workstation& ws) {
+void roll_past_hours(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
   const double hour = val(k.Text1.text);
@@ -84,7 +85,7 @@ void roll_past_hours(Workstation& ws) {
 }
 
 // The past-hours row as its bound boxes now show it, kept in PAST.mdb.
-void keep_past_row(Workstation& ws) {
+void keep_past_row(Desk& ws) {
   DataControl& past = ws.FrmMain.PAST;
   Recordset& rs = past.rs;
   if (!rs.is_open() || rs.eof() || rs.bof()) return;
@@ -94,7 +95,7 @@ void keep_past_row(Workstation& ws) {
 
 // Step 5: the SCDATA lines by station kind, report kind and hour, listed in the
 // journal in the order they are written.
-void scdata_lines(Workstation& ws, SaveJournal& journal) {
+void scdata_lines(Desk& ws, SaveJournal& journal) {
   FrmKashf& k = ws.FrmKashf;
   const std::string folder = station_folder(ws);
   const std::string nnn = station_nnn(ws.FrmOption.NUMCOD.text);
@@ -138,7 +139,7 @@ void scdata_lines(Workstation& ws, SaveJournal& journal) {
 // for their row: a crash before the row is saved takes them back at the next
 // start, and the save that commits the row makes them its own. A write error
 // takes back every line of this confirmation.
-void append_scdata(Workstation& ws) {
+void append_scdata(Desk& ws) {
   SaveJournal journal(ws.file_seam);
   scdata_lines(ws, journal);
   if (journal.empty()) return;
@@ -186,7 +187,7 @@ Control* exact(Screen& s, const std::string& name) {
 // Step 6: every value into the browser's row; the lists go to their columns'
 // boxes, the key text is composed anew, and the Combo3 type stands last in
 // Text42.
-void copy_into_browser(Workstation& ws) {
+void copy_into_browser(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.show(b);
@@ -211,7 +212,7 @@ void copy_into_browser(Workstation& ws) {
 
 // Step 7: each value left-aligned in its stored width. A value wider than its
 // field stops the confirmation here; the boxes after it stay as they are.
-void pad_browser(Workstation& ws) {
+void pad_browser(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   auto pad = [&](std::string_view name, int width) {
     Control* c = exact(b, std::string(name));
@@ -228,7 +229,7 @@ void pad_browser(Workstation& ws) {
 }
 
 // Step 8: the entry screen closes and the code panel goes back to blank groups.
-void close_entry(Workstation& ws) {
+void close_entry(Desk& ws) {
   ws.unload(ws.FrmKashf);
   FrmCode& c = ws.FrmCode;
   for (Control* box : Controls{&c.TXTUTC, &c.TXTYYGG, &c.TXTAUTO, &c.txtdddff, &c.TXTDNDX, &c.TXTVVVv, &c.TXTVXVXVXDV,
@@ -250,7 +251,7 @@ void close_entry(Workstation& ws) {
 // The month-end rewrite of last month's file, at every 06 UTC report of January:
 // the file gains one line end. A month with no file (a station's first
 // January) has nothing to close and is passed over.
-void month_end(Workstation& ws, SaveJournal& journal, const std::string& prefix_dir, const std::string& prefix) {
+void month_end(Desk& ws, SaveJournal& journal, const std::string& prefix_dir, const std::string& prefix) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   if (!b.txt1.text.empty() || val(b.Text1.text) != 6 || val(b.TXTMONTHMI.text) != 1) return;
   const std::string name = station_folder(ws) + prefix_dir + prefix + station_nnn(ws.FrmOption.NUMCOD.text) +
@@ -270,7 +271,7 @@ void month_end(Workstation& ws, SaveJournal& journal, const std::string& prefix_
 // is SYNOP.BUFR, in the same journal. A message that cannot be made is told and
 // the save goes on without it: the report must not be lost over its BUFR copy.
 // True when the message is listed.
-bool add_bufr(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
+bool add_bufr(Desk& ws, SaveJournal& journal, const std::vector<Bulletin>& bulletins) {
   const bool synop =
       std::any_of(bulletins.begin(), bulletins.end(), [](const Bulletin& x) { return x.file == "SYNOP.DAT"; });
   if (!synop || trim(ws.FrmDisplayKashf.txtSYN.text).empty()) return false;
@@ -283,14 +284,14 @@ bool add_bufr(Workstation& ws, SaveJournal& journal, const std::vector<Bulletin>
   }
 }
 
-std::string browser_value(Workstation& ws, std::string_view box) {
+std::string browser_value(Desk& ws, std::string_view box) {
   Control* c = ws.FrmDisplayKashf.find(box);
   return c != nullptr ? c->text : std::string();
 }
 
 // The open row and the save's intent in one transaction; on failure neither is
 // kept and the row stays open for another save.
-Commit commit_row(Workstation& ws, const SaveJournal& journal) {
+Commit commit_row(Desk& ws, const SaveJournal& journal) {
   Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
   Database& db = rs.database();
   try {
@@ -311,7 +312,7 @@ Commit commit_row(Workstation& ws, const SaveJournal& journal) {
 // When the files cannot be put back the row stays saved and its intent is
 // finished before the next save, or at the next start.
 // Returns false when the row stays saved.
-bool take_back(Workstation& ws, const SaveJournal& journal, const Commit& intent, const std::exception& cause) {
+bool take_back(Desk& ws, const SaveJournal& journal, const Commit& intent, const std::exception& cause) {
   Recordset& rs = ws.FrmDisplayKashf.KASHF.rs;
   Database& db = rs.database();
   try {
@@ -353,7 +354,7 @@ DateTexts repair_persian(const DateTexts& d, bool leap) {
   return d;
 }
 
-void ZAKHIREH_click(Workstation& ws) {
+void ZAKHIREH_click(Desk& ws) {
   leap_flags(ws);
   repair_dates(ws);
   ws.SYNOP_coded = 0;
@@ -371,7 +372,7 @@ void ZAKHIREH_click(Workstation& ws) {
   close_entry(ws);
 }
 
-void save_click(Workstation& ws) {
+void save_click(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   Recordset& rs = b.KASHF.rs;
   FileSeam* seam = ws.file_seam;
@@ -434,7 +435,7 @@ void save_click(Workstation& ws) {
   }
 }
 
-void wire_save(Workstation& ws) {
+void wire_save(Desk& ws) {
   ws.FrmKashf.ZAKHIREH.on(Event::Click, ZAKHIREH_click);
   ws.FrmDisplayKashf.save.on(Event::Click, save_click);
 }

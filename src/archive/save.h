@@ -13,7 +13,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 
 // A date one day past its month's end, repaired. Texts in, texts out; a date
 // that needs no repair comes back as it was.
@@ -24,9 +24,9 @@ struct DateTexts {
 DateTexts repair_gregorian(const DateTexts& d, bool leap);
 DateTexts repair_persian(const DateTexts& d, bool leap);
 
-void ZAKHIREH_click(Workstation& ws);
-void save_click(Workstation& ws);
+void ZAKHIREH_click(Desk& ws);
+void save_click(Desk& ws);
 
-void wire_save(Workstation& ws);
+void wire_save(Desk& ws);
 
 }  // namespace obsdesk

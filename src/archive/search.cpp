@@ -3,18 +3,11 @@
 #include <functional>
 
 #include "calendar/names.h"
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
-FrmFind::FrmFind() : Screen("FrmFind") {
-  caption = "Search";
-  ComMI.items.assign(gregorian_month_names_upper().begin(), gregorian_month_names_upper().end());
-  ComSH.items.assign(shamsi_month_names().begin(), shamsi_month_names().end());
-  TXTDAYWEEK.locked = true;
-}
 
 namespace {
 
@@ -29,7 +22,7 @@ bool number_of(const std::string& text, int& out) {
 // The weekday and the search text from the Gregorian boxes and the hour: two
 // figures of the year, then month, day and hour with their leading zeros. An
 // empty hour leaves the text at the day, which finds its first report.
-void show_key(Workstation& ws) {
+void show_key(Desk& ws) {
   FrmFind& f = ws.FrmFind;
   int y = 0, d = 0;
   const int m = month_of_text(f.ComMI.text);
@@ -42,7 +35,7 @@ void show_key(Workstation& ws) {
 
 // A change in one calendar fills the other. Text that is no date leaves the
 // boxes as they are.
-void from_gregorian(Workstation& ws) {
+void from_gregorian(Desk& ws) {
   FrmFind& f = ws.FrmFind;
   if (f.updating) return;
   f.updating = true;
@@ -59,7 +52,7 @@ void from_gregorian(Workstation& ws) {
   f.updating = false;
 }
 
-void from_shamsi(Workstation& ws) {
+void from_shamsi(Desk& ws) {
   FrmFind& f = ws.FrmFind;
   if (f.updating) return;
   f.updating = true;
@@ -76,12 +69,12 @@ void from_shamsi(Workstation& ws) {
   f.updating = false;
 }
 
-void txttime_change(Workstation& ws) {
+void txttime_change(Desk& ws) {
   if (!ws.FrmFind.updating) show_key(ws);
 }
 
 // The calendar control's date goes to the Gregorian boxes.
-void DTPicker1_change(Workstation& ws) {
+void DTPicker1_change(Desk& ws) {
   FrmFind& f = ws.FrmFind;
   if (f.updating) return;
   const std::string t = trim(f.DTPicker1.text);
@@ -97,7 +90,7 @@ void DTPicker1_change(Workstation& ws) {
 }
 
 // Today's date in both calendars.
-void FrmFind_load(Workstation& ws) {
+void FrmFind_load(Desk& ws) {
   FrmFind& f = ws.FrmFind;
   const DateTime now = ws.now();
   f.found = false;
@@ -112,7 +105,7 @@ void FrmFind_load(Workstation& ws) {
   from_gregorian(ws);
 }
 
-void CmdFind_click(Workstation& ws) {
+void CmdFind_click(Desk& ws) {
   ws.FrmFind.found = true;
   ws.hide(ws.FrmFind);
 }
@@ -122,10 +115,10 @@ void CmdFind_click(Workstation& ws) {
 // getstring: the dialog shows modally; its text goes to the caller when "Find"
 // closed it, an empty text when it was closed otherwise. It stays loaded with the
 // date last asked for.
-void open_find_dialog(Workstation& ws, std::function<void(Workstation&, const std::string&)> on_text) {
+void open_find_dialog(Desk& ws, std::function<void(Desk&, const std::string&)> on_text) {
   FrmFind& f = ws.FrmFind;
   f.found = false;
-  ws.show_modal(f, [on_text = std::move(on_text)](Workstation& w) {
+  ws.show_modal(f, [on_text = std::move(on_text)](Desk& w) {
     FrmFind& d = w.FrmFind;
     const std::string text = d.found ? d.Txtfind.text : std::string();
     d.found = false;
@@ -133,10 +126,13 @@ void open_find_dialog(Workstation& ws, std::function<void(Workstation&, const st
   });
 }
 
-void wire_search(Workstation& ws) {
+void wire_search(Desk& ws) {
   FrmFind& f = ws.FrmFind;
+  // The month lists as the calendar names them.
+  f.ComMI.items.assign(gregorian_month_names_upper().begin(), gregorian_month_names_upper().end());
+  f.ComSH.items.assign(shamsi_month_names().begin(), shamsi_month_names().end());
   f.on(ScreenEvent::Load, FrmFind_load);
-  f.on(ScreenEvent::Unload, [](Workstation& w) { w.FrmFind.found = false; });
+  f.on(ScreenEvent::Unload, [](Desk& w) { w.FrmFind.found = false; });
   for (Control* c : Controls{&f.TXTDAYmi, &f.ComMI, &f.TXTYEARmi}) c->on(Event::Change, from_gregorian);
   for (Control* c : Controls{&f.TXTDAYsh, &f.ComSH, &f.TXTYEARsh}) c->on(Event::Change, from_shamsi);
   f.txttime.on(Event::Change, txttime_change);

@@ -4,7 +4,7 @@
 #include "bank/journal.h"
 #include "calendar/calendar.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -22,7 +22,7 @@ std::string field(std::string_view value, std::size_t width) { return pad_right(
 
 }  // namespace
 
-std::string station_folder(Workstation& ws) {
+std::string station_folder(Desk& ws) {
   return trim(ws.FrmMain.LabName.text) + "\\BANK\\" + left(ws.FrmOption.TXTCOD.text, 4);
 }
 
@@ -128,7 +128,7 @@ std::string lines_bytes(const std::vector<std::string>& lines) {
 
 void flush_bank(const fs::path& root) { flush_files(root); }
 
-fs::path bank_file(Workstation& ws, std::string_view system_name) {
+fs::path bank_file(Desk& ws, std::string_view system_name) {
   return resolve_bank_path(ws.bank_root(), system_name);
 }
 

@@ -14,13 +14,13 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 struct FrmCode;
 
 // ---- Names ------------------------------------------------------------------
 
 // The station's folder of the bank: <prog>\BANK\<first four letters of TXTCOD>.
-std::string station_folder(Workstation& ws);
+std::string station_folder(Desk& ws);
 // <nnn>: characters 3 to 5 of the station number, the number without its block.
 std::string station_nnn(std::string_view numcod);
 
@@ -79,6 +79,6 @@ std::string lines_bytes(const std::vector<std::string>& lines);
 void flush_bank(const std::filesystem::path& root);
 
 // A system name below the bank root as a file under it.
-std::filesystem::path bank_file(Workstation& ws, std::string_view system_name);
+std::filesystem::path bank_file(Desk& ws, std::string_view system_name);
 
 }  // namespace obsdesk

@@ -11,7 +11,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Engine;
 struct Control;
 
 class DataControl {
@@ -28,20 +28,20 @@ class DataControl {
   const std::vector<std::pair<Control*, std::string>>& bindings() const { return bindings_; }
 
   // Opens the table and shows its first row. Every bound column must exist.
-  void open(Workstation& ws, const std::filesystem::path& file, std::string_view table);
+  void open(Engine& ws, const std::filesystem::path& file, std::string_view table);
   // The bound boxes take the current row; blank when there is none.
-  void show(Workstation& ws);
+  void show(Engine& ws);
   // The bound boxes' texts go into the row being edited or added.
   void write();
 
-  void add_new(Workstation& ws);  // a new row, the bound boxes blank
+  void add_new(Engine& ws);  // a new row, the bound boxes blank
   void update();                  // write() then update
-  void move_first(Workstation& ws);
-  void move_last(Workstation& ws);
-  void move_next(Workstation& ws);
-  void move_previous(Workstation& ws);
-  void go_to(Workstation& ws, std::int64_t bookmark);
-  void refresh(Workstation& ws);  // read anew, first row
+  void move_first(Engine& ws);
+  void move_last(Engine& ws);
+  void move_next(Engine& ws);
+  void move_previous(Engine& ws);
+  void go_to(Engine& ws, std::int64_t bookmark);
+  void refresh(Engine& ws);  // read anew, first row
 
  private:
   std::vector<std::pair<Control*, std::string>> bindings_;

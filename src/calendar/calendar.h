@@ -6,17 +6,9 @@
 
 #include <string>
 
-namespace obsdesk {
+#include "screens/shared_values.h"
 
-struct CalendarState {
-  int GYear = 0, GMonth = 0, GDay = 0;  // Gregorian: input of one way, output of the other
-  int SYear = 0, SMonth = 0, SDay = 0;  // Shamsi
-  int GLeapThis = 0;  // 1 when the Gregorian year last tested was a leap year
-  int GLeapPrev = 0;  // 1 when the year before it was
-  int SLeapA = 0;     // 1 when (Shamsi year + 1) is divisible by 4
-  int SLeapB = 0;     // 1 when (Shamsi year + 2) is divisible by 4
-  std::string month_name_result;  // the last result of Module_Month_Num
-};
+namespace obsdesk {
 
 // Sets SYear, SMonth, SDay; a month outside 1 to 12 leaves them as they were.
 void gregorian_to_shamsi(CalendarState& s, int year, int month, int day);

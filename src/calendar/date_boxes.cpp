@@ -2,7 +2,7 @@
 
 #include "calendar/names.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -22,7 +22,7 @@ bool part(const std::string& text, int& out) {
 
 }  // namespace
 
-void gregorian_date_key_up(Workstation& ws, bool key_in_day) {
+void gregorian_date_key_up(Desk& ws, bool key_in_day) {
   FrmKashf& k = ws.FrmKashf;
   if (k.TXTDAYmi.text.empty() || k.TXTMONTHMI.text.empty() || k.TXTYEARmi.text.empty()) return;
   int y = 0, d = 0;
@@ -39,7 +39,7 @@ void gregorian_date_key_up(Workstation& ws, bool key_in_day) {
     for (Control* box : Controls{&k.TXTYEARsh, &k.TXTMONTHSH, &k.TXTDAYsh}) ws.set(*box, "");
 }
 
-void shamsi_date_key_up(Workstation& ws, const Control& changed) {
+void shamsi_date_key_up(Desk& ws, const Control& changed) {
   FrmKashf& k = ws.FrmKashf;
   if (changed.text.empty()) return;
   int y = 0, d = 0;
@@ -55,20 +55,20 @@ void shamsi_date_key_up(Workstation& ws, const Control& changed) {
     for (Control* box : Controls{&k.TXTMONTHMI, &k.TXTYEARmi, &k.TXTDAYmi}) ws.set(*box, "");
 }
 
-void date_box_leave(Workstation& ws, Control& box) {
+void date_box_leave(Desk& ws, Control& box) {
   if (len(box.text) == 1) ws.set(box, "0" + box.text);
 }
 
-void wire_date_boxes(Workstation& ws) {
+void wire_date_boxes(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   for (Control* c : Controls{&k.TXTDAYmi, &k.TXTMONTHMI, &k.TXTYEARmi}) {
     const bool in_day = c == &k.TXTDAYmi;
-    c->on(Event::KeyUp, [in_day](Workstation& w) { gregorian_date_key_up(w, in_day); });
+    c->on(Event::KeyUp, [in_day](Desk& w) { gregorian_date_key_up(w, in_day); });
   }
   for (Control* c : Controls{&k.TXTDAYsh, &k.TXTMONTHSH, &k.TXTYEARsh})
-    c->on(Event::KeyUp, [c](Workstation& w) { shamsi_date_key_up(w, *c); });
+    c->on(Event::KeyUp, [c](Desk& w) { shamsi_date_key_up(w, *c); });
   for (Control* c : Controls{&k.TXTDAYmi, &k.TXTMONTHMI, &k.TXTDAYsh, &k.TXTMONTHSH})
-    c->on(Event::Leave, [c](Workstation& w) { date_box_leave(w, *c); });
+    c->on(Event::Leave, [c](Desk& w) { date_box_leave(w, *c); });
 }
 
 }  // namespace obsdesk

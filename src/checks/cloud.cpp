@@ -5,11 +5,11 @@
 #include <array>
 
 #include "checks/entry_checks.h"
-#include "core/record.h"
-#include "core/seams.h"
-#include "core/session.h"
+#include "screens/record.h"
+#include "screens/boards.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -81,7 +81,7 @@ void show_layers(FrmKashf& k, bool on) {
 }
 
 // A sky of none or of invisible cloud: every layer is filled with nothing.
-void fill_clear_sky(Workstation& ws) {
+void fill_clear_sky(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   for (Control* c : Controls{&k.Text6, &k.Text8, &k.Text10, &k.Text49, &k.Text17, &k.Text23, &k.Text7, &k.Text9,
                              &k.Text11, &k.txtmin, &k.Text16, &k.Text22})
@@ -90,7 +90,7 @@ void fill_clear_sky(Workstation& ws) {
     ws.set(*c, std::string(kNoCloud));
 }
 
-void Text5_change(Workstation& ws) {
+void Text5_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   TextBox& n = k.Text5;
   ws.set(k.Text12, "");
@@ -127,7 +127,7 @@ void Text5_change(Workstation& ws) {
   k.Label42.visible = synop_kind;
 }
 
-void Text5_enter(Workstation& ws) {
+void Text5_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text4.text.empty() && k.TxtVM.text.empty()) {
     ws.error(kTypeVisibility);
@@ -135,14 +135,14 @@ void Text5_enter(Workstation& ws) {
   }
 }
 
-void Text5_key_enter(Workstation& ws) {
+void Text5_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text5.text == "9") ws.focus(k.Text12);
   else if (!k.Text5.text.empty()) ws.focus(k.Text27);
 }
 
 // The temperature twelve hours before, for the SYNOP extremes.
-void Text5_leave(Workstation& ws) {
+void Text5_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& h = hour_text(ws);
   if (!k.Frame6.visible || !is_numeric(h) || val(h) < 0 || val(h) > 23) return;
@@ -152,7 +152,7 @@ void Text5_leave(Workstation& ws) {
 
 // ---- Amounts ------------------------------------------------------------------------------
 
-void amount_change(Workstation& ws, TextBox& box) {
+void amount_change(Desk& ws, TextBox& box) {
   FrmKashf& k = ws.FrmKashf;
   std::string t = box.text;
   if (t.empty()) return;
@@ -182,7 +182,7 @@ void amount_change(Workstation& ws, TextBox& box) {
   }
 }
 
-void empty_to_zero(Workstation& ws, Control& box) {
+void empty_to_zero(Desk& ws, Control& box) {
   if (box.text.empty()) ws.set(box, "0");
 }
 
@@ -195,7 +195,7 @@ const HeightRange& range_of(const Control& box) {
 }
 
 // The lowest height of the low layers, kept in the SYNOP summary.
-void update_summary(Workstation& ws) {
+void update_summary(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   for (Control* c : Controls{&ws.FrmCode.Text98, &ws.FrmCode.Text99, &ws.FrmCode.Text100, &ws.FrmCode.Text101})
     ws.set(*c, kBlankGroup);
@@ -218,7 +218,7 @@ void update_summary(Workstation& ws) {
 // A low height is typed as at most four figures, the metres of a layer up to
 // 2500 m: a longer text or another character would give groups of the wrong
 // length. False when the box was refused.
-bool low_height_typed(Workstation& ws, TextBox& box) {
+bool low_height_typed(Desk& ws, TextBox& box) {
   const std::string& t = box.text;
   bool ok = t.size() <= 4;
   for (char c : t) ok = ok && c >= '0' && c <= '9';
@@ -226,7 +226,7 @@ bool low_height_typed(Workstation& ws, TextBox& box) {
   return ok;
 }
 
-void Text9_change(Workstation& ws) {
+void Text9_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (!low_height_typed(ws, k.Text9)) return;
   if (k.Text7.text.empty() && !k.Text9.text.empty()) {
@@ -238,7 +238,7 @@ void Text9_change(Workstation& ws) {
 }
 
 // Above an overcast layer nothing can be seen: the layers above are forced.
-void overcast_above_low(Workstation& ws) {
+void overcast_above_low(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text6.text != "8") return;
   ws.set(k.Text17, "9");
@@ -249,7 +249,7 @@ void overcast_above_low(Workstation& ws) {
   ws.set(k.Combo9, kOvercastAbove);
 }
 
-void overcast_above_middle(Workstation& ws) {
+void overcast_above_middle(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text17.text != "8") return;
   ws.set(k.Text23, "9");
@@ -259,7 +259,7 @@ void overcast_above_middle(Workstation& ws) {
 
 // ---- Types ---------------------------------------------------------------------------------
 
-void type_change(Workstation& ws, ComboBox& list, const TypeList& table) {
+void type_change(Desk& ws, ComboBox& list, const TypeList& table) {
   const std::string& t = list.text;
   if (len(t) != 1) return;
   if (is_digit(t)) ws.set(list, table.by_figure[static_cast<std::size_t>(val(t))]);
@@ -269,7 +269,7 @@ void type_change(Workstation& ws, ComboBox& list, const TypeList& table) {
 }
 
 // The same type in two low layers is refused.
-void low_type_click(Workstation& ws, ComboBox& list) {
+void low_type_click(Desk& ws, ComboBox& list) {
   FrmKashf& k = ws.FrmKashf;
   auto same = [&](const ComboBox& a, const ComboBox& b) { return a.text == b.text && a.text != kNoCloud; };
   const char* words = nullptr;
@@ -279,7 +279,7 @@ void low_type_click(Workstation& ws, ComboBox& list) {
 }
 
 // A trace of cloud can only be one of the small heaps or a thunder cloud.
-void low_type_leave(Workstation& ws, ComboBox& list, TextBox& amount) {
+void low_type_leave(Desk& ws, ComboBox& list, TextBox& amount) {
   if (list.text.empty()) ws.set(list, std::string(kNoCloud));
   if (!is_trace(amount.text)) return;
   if (list.text != "CB     3" && list.text != "CU     2" && list.text != "CB     9") refuse(ws, list, kTraceType);
@@ -288,30 +288,30 @@ void low_type_leave(Workstation& ws, ComboBox& list, TextBox& amount) {
 // ---- The walk ----------------------------------------------------------------------------------
 
 // Enter in the height of a layer that covers the sky skips the layers above it.
-bool skip_above_overcast(Workstation& ws, TextBox& amount) {
+bool skip_above_overcast(Desk& ws, TextBox& amount) {
   if (amount.text != "8") return false;
   if (is_metar_kind(report_kind(ws))) ws.focus(ws.FrmKashf.Text74);
   else rainfall_rule(ws);
   return true;
 }
 
-void Text11_key_enter(Workstation& ws) {
+void Text11_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   ws.focus(is_metar_kind(report_kind(ws)) ? static_cast<Control&>(k.Text17) : k.Text49);
 }
 
-void Text12_key_enter(Workstation& ws) {
+void Text12_key_enter(Desk& ws) {
   if (!ws.FrmKashf.Text12.text.empty()) ws.focus(ws.FrmKashf.Text27);
 }
 
-void Cmb_NLC_click(Workstation& ws) {
+void Cmb_NLC_click(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   ws.set(k.Txt_NLC, k.Cmb_NLC.text == "None" ? "" : k.Cmb_NLC.text);
 }
 
 }  // namespace
 
-bool cloud_height_ok(Workstation& ws, Control& height_box) {
+bool cloud_height_ok(Desk& ws, Control& height_box) {
   const HeightRange& r = range_of(height_box);
   const std::string& t = height_box.text;
   if (t.empty() || (r.x_allowed && upper(t) == "X")) return true;
@@ -320,7 +320,7 @@ bool cloud_height_ok(Workstation& ws, Control& height_box) {
   return false;
 }
 
-void rainfall_rule(Workstation& ws) {
+void rainfall_rule(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (is_metar_kind(report_kind(ws))) {
     ws.focus(k.Text74);
@@ -336,7 +336,7 @@ void rainfall_rule(Workstation& ws) {
   }
 }
 
-void wire_cloud(Workstation& ws) {
+void wire_cloud(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text5.on(Event::Change, Text5_change);
   k.Text5.on(Event::Enter, Text5_enter);
@@ -345,68 +345,68 @@ void wire_cloud(Workstation& ws) {
   k.Text12.on(Event::KeyEnter, Text12_key_enter);
 
   for (TextBox* a : {&k.Text6, &k.Text8, &k.Text10, &k.Text17, &k.Text23, &k.Text49}) {
-    a->on(Event::Change, [a](Workstation& w) { amount_change(w, *a); });
-    a->on(Event::Leave, [a](Workstation& w) { empty_to_zero(w, *a); });
+    a->on(Event::Change, [a](Desk& w) { amount_change(w, *a); });
+    a->on(Event::Leave, [a](Desk& w) { empty_to_zero(w, *a); });
   }
   // Each low height is tested when the field after it takes the focus.
-  k.Text6.on(Event::Enter, [](Workstation& w) {
+  k.Text6.on(Event::Enter, [](Desk& w) {
     if (w.FrmKashf.Text25.visible && w.FrmKashf.Text25.text.empty()) w.focus(w.FrmKashf.Text25);
   });
-  k.Text8.on(Event::Enter, [](Workstation& w) { cloud_height_ok(w, w.FrmKashf.Text7); });
-  k.Text10.on(Event::Enter, [](Workstation& w) { cloud_height_ok(w, w.FrmKashf.Text9); });
-  k.Text17.on(Event::Enter, [](Workstation& w) { cloud_height_ok(w, w.FrmKashf.Text11); });
-  k.Text49.on(Event::Enter, [](Workstation& w) { cloud_height_ok(w, w.FrmKashf.Text11); });
-  k.Text23.on(Event::Enter, [](Workstation& w) { cloud_height_ok(w, w.FrmKashf.Text16); });
-  k.Text8.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo2); });
-  k.Text49.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo4); });
-  k.Combo4.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.txtmin); });
-  k.Text17.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo6); });
-  k.Text23.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Combo9); });
+  k.Text8.on(Event::Enter, [](Desk& w) { cloud_height_ok(w, w.FrmKashf.Text7); });
+  k.Text10.on(Event::Enter, [](Desk& w) { cloud_height_ok(w, w.FrmKashf.Text9); });
+  k.Text17.on(Event::Enter, [](Desk& w) { cloud_height_ok(w, w.FrmKashf.Text11); });
+  k.Text49.on(Event::Enter, [](Desk& w) { cloud_height_ok(w, w.FrmKashf.Text11); });
+  k.Text23.on(Event::Enter, [](Desk& w) { cloud_height_ok(w, w.FrmKashf.Text16); });
+  k.Text8.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Combo2); });
+  k.Text49.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Combo4); });
+  k.Combo4.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.txtmin); });
+  k.Text17.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Combo6); });
+  k.Text23.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Combo9); });
 
-  k.Text7.on(Event::Change, [](Workstation& w) {
+  k.Text7.on(Event::Change, [](Desk& w) {
     if (low_height_typed(w, w.FrmKashf.Text7)) update_summary(w);
   });
   k.Text9.on(Event::Change, Text9_change);
-  k.Text11.on(Event::Change, [](Workstation& w) {
+  k.Text11.on(Event::Change, [](Desk& w) {
     if (low_height_typed(w, w.FrmKashf.Text11)) update_summary(w);
   });
-  k.Text7.on(Event::Leave, [](Workstation& w) {
+  k.Text7.on(Event::Leave, [](Desk& w) {
     empty_to_zero(w, w.FrmKashf.Text7);
     overcast_above_low(w);
   });
-  for (TextBox* h : {&k.Text9, &k.Text11}) h->on(Event::Leave, [h](Workstation& w) { empty_to_zero(w, *h); });
-  k.Text7.on(Event::KeyEnter, [](Workstation& w) {
+  for (TextBox* h : {&k.Text9, &k.Text11}) h->on(Event::Leave, [h](Desk& w) { empty_to_zero(w, *h); });
+  k.Text7.on(Event::KeyEnter, [](Desk& w) {
     if (!cloud_height_ok(w, w.FrmKashf.Text7)) return;
     if (!skip_above_overcast(w, w.FrmKashf.Text6)) w.focus(w.FrmKashf.Text8);
   });
   k.Text11.on(Event::KeyEnter, Text11_key_enter);
   // The middle and high heights are whole at four figures: tested then, and on leaving.
   for (TextBox* h : {&k.Text16, &k.Text22}) {
-    h->on(Event::KeyUp, [h](Workstation& w) {
+    h->on(Event::KeyUp, [h](Desk& w) {
       if (len(h->text) >= 4) cloud_height_ok(w, *h);
     });
   }
-  k.Text16.on(Event::Leave, [](Workstation& w) {
+  k.Text16.on(Event::Leave, [](Desk& w) {
     empty_to_zero(w, w.FrmKashf.Text16);
     if (cloud_height_ok(w, w.FrmKashf.Text16)) overcast_above_middle(w);
   });
-  k.Text22.on(Event::Leave, [](Workstation& w) {
+  k.Text22.on(Event::Leave, [](Desk& w) {
     empty_to_zero(w, w.FrmKashf.Text22);
     cloud_height_ok(w, w.FrmKashf.Text22);
   });
-  k.Text16.on(Event::KeyEnter, [](Workstation& w) {
+  k.Text16.on(Event::KeyEnter, [](Desk& w) {
     if (!skip_above_overcast(w, w.FrmKashf.Text17)) w.focus(w.FrmKashf.Text23);
   });
   k.Text22.on(Event::KeyEnter, rainfall_rule);
 
   for (const TypeList& t : kTypeLists) {
     auto* list = static_cast<ComboBox*>(k.find(t.box));
-    list->on(Event::Change, [list, &t](Workstation& w) { type_change(w, *list, t); });
+    list->on(Event::Change, [list, &t](Desk& w) { type_change(w, *list, t); });
   }
   const std::pair<ComboBox*, TextBox*> low[] = {{&k.Combo1, &k.Text6}, {&k.Combo2, &k.Text8}, {&k.Combo3, &k.Text10}};
   for (auto [list, amount] : low) {
-    list->on(Event::Click, [list](Workstation& w) { low_type_click(w, *list); });
-    list->on(Event::Leave, [list, amount](Workstation& w) { low_type_leave(w, *list, *amount); });
+    list->on(Event::Click, [list](Desk& w) { low_type_click(w, *list); });
+    list->on(Event::Leave, [list, amount](Desk& w) { low_type_leave(w, *list, *amount); });
   }
   k.Cmb_NLC.on(Event::Click, Cmb_NLC_click);
 }

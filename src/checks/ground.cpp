@@ -6,9 +6,9 @@
 #include "checks/limits.h"
 #include "checks/temperature.h"
 #include "checks/temperature_words.h"
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -64,7 +64,7 @@ constexpr std::array<SoilDepth, 6> kSoil = {{
     {&FrmKashf::Text35, 6}, {&FrmKashf::Text36, 7}, {&FrmKashf::Text37, 7},
 }};
 
-void soil_leave(Workstation& ws, Control& box, int row) {
+void soil_leave(Desk& ws, Control& box, int row) {
   if (!is_reading(box.text)) return;
   if (!within_hard(ws, box, val(box.text), row, words::kExtremeOutOfRange)) return;
   within_soft(ws, box, val(box.text), row, words::kConfirmTemperature);
@@ -73,18 +73,17 @@ void soil_leave(Workstation& ws, Control& box, int row) {
 // ---- Ground minimum and snow ------------------------------------------------------
 
 // Whole degrees only, "/" when not read.
-void Text68_change(Workstation& ws) {
+void Text68_change(Desk& ws) {
   Control& g = ws.FrmKashf.Text68;
   const std::string& t = g.text;
   if (t.empty() || t == "-" || t == "-." || t == "/") return;
   if (thermometer_text_ok(t, true) && t.find('.') == std::string::npos) return;
-  ws.error(words::kCheckTemperature);
-  refuse(ws, g);
+  refuse(ws, g, words::kCheckTemperature);
 }
 
 // Accepted by the hard pair, the minimum gives the figures of 3EsnTgTg at once,
 // so that the state of ground chosen during entry has them.
-void Text68_leave(Workstation& ws) {
+void Text68_leave(Desk& ws) {
   Control& g = ws.FrmKashf.Text68;
   if (!is_reading(g.text)) return;
   if (!within_hard(ws, g, val(g.text), kGround, words::kExtremeOutOfRange)) return;
@@ -92,7 +91,7 @@ void Text68_leave(Workstation& ws) {
 }
 
 // The soft pair of the ground minimum, asked as the next boxes are entered.
-bool ground_minimum_soft_ok(Workstation& ws) {
+bool ground_minimum_soft_ok(Desk& ws) {
   Control& g = ws.FrmKashf.Text68;
   if (!is_reading(g.text)) return true;
   return within_soft(ws, g, val(g.text), kGround, words::kConfirmTemperature);
@@ -106,43 +105,40 @@ bool data_text_ok(const std::string& t) {
   return true;
 }
 
-void data_change(Workstation& ws, Control& box) {
+void data_change(Desk& ws, Control& box) {
   if (data_text_ok(box.text)) return;
-  ws.error(words::kCheckData);
-  refuse(ws, box);
+  refuse(ws, box, words::kCheckData);
 }
 
-bool ground_state_set(Workstation& ws) { return !ws.FrmDisplayKashf.Text52.text.empty(); }
+bool ground_state_set(Desk& ws) { return !ws.FrmDisplayKashf.Text52.text.empty(); }
 // A state from the table of ground without snow leaves the snow group blank.
-bool ground_without_snow(Workstation& ws) { return ground_state_set(ws) && trim(ws.FrmCode.Text92.text).empty(); }
+bool ground_without_snow(Desk& ws) { return ground_state_set(ws) && trim(ws.FrmCode.Text92.text).empty(); }
 
 // Snow needs the state of ground first.
-void snow_enter(Workstation& ws, Control& box) {
+void snow_enter(Desk& ws, Control& box) {
   if (ground_state_set(ws)) return;
   ws.error(words::kSetStateOfGround);
   ws.set(box, "");
-  open_ground_picker(ws);
+  ws.handoffs.open_ground_picker(ws);
 }
 
-void snow_change(Workstation& ws, Control& box) {
+void snow_change(Desk& ws, Control& box) {
   if (!data_text_ok(box.text)) {
-    ws.error(words::kCheckData);
-    refuse(ws, box);
+    refuse(ws, box, words::kCheckData);
     return;
   }
   if (is_reading(box.text) && val(box.text) > 0 && ground_without_snow(ws)) {
-    ws.error(words::kContradictsGround);
-    refuse(ws, box);
+    refuse(ws, box, words::kContradictsGround);
   }
 }
 
-void Text69_change(Workstation& ws) {
+void Text69_change(Desk& ws) {
   Control& total = ws.FrmKashf.Text69;
   snow_change(ws, total);
   ws.SnowDepth = snow_depth_figures(total.text);
 }
 
-void Text69_enter(Workstation& ws) {
+void Text69_enter(Desk& ws) {
   if (!ground_minimum_soft_ok(ws)) return;
   snow_enter(ws, ws.FrmKashf.Text69);
 }
@@ -151,15 +147,14 @@ void Text69_enter(Workstation& ws) {
 
 bool pan_exempt(const std::string& t) { return !is_reading(t); }
 
-bool pan_hard(Workstation& ws, Control& box, double low, double high) {
+bool pan_hard(Desk& ws, Control& box, double low, double high) {
   const double v = val(box.text);
   if (v <= high && v >= low) return true;
-  ws.error(words::kExtremeOutOfRange);
-  refuse(ws, box);
+  refuse(ws, box, words::kExtremeOutOfRange);
   return false;
 }
 
-bool pan_soft(Workstation& ws, Control& box, double low, double high) {
+bool pan_soft(Desk& ws, Control& box, double low, double high) {
   if (pan_exempt(box.text)) return true;
   const double v = val(box.text);
   if (v <= high && v >= low) return true;
@@ -168,13 +163,13 @@ bool pan_soft(Workstation& ws, Control& box, double low, double high) {
   return false;
 }
 
-void Text63_leave(Workstation& ws) {
+void Text63_leave(Desk& ws) {
   Control& low = ws.FrmKashf.Text63;
   if (pan_exempt(low.text)) return;
   if (pan_hard(ws, low, -3, 40)) pan_soft(ws, low, 1, 30);
 }
 
-void Text64_leave(Workstation& ws) {
+void Text64_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& high = k.Text64;
   if (pan_exempt(high.text)) return;
@@ -185,8 +180,7 @@ void Text64_leave(Workstation& ws) {
     return;
   }
   if (is_reading(k.Text63.text) && val(k.Text63.text) > val(high.text)) {
-    ws.error(words::kPanMinimumAboveMaximum);
-    refuse(ws, high);
+    refuse(ws, high, words::kPanMinimumAboveMaximum);
     return;
   }
   pan_soft(ws, high, 1, 30);
@@ -199,7 +193,7 @@ struct PanRain {
   bool missing = false;
   double mm = 0;
 };
-PanRain pan_rain(Workstation& ws) {
+PanRain pan_rain(Desk& ws) {
   const std::string& t = ws.FrmKashf.Text53.text;
   if (t.empty()) return {};
   if (t == "/") return {true, true, 0};
@@ -207,7 +201,7 @@ PanRain pan_rain(Workstation& ws) {
   return {true, false, val(t)};
 }
 
-void Text65_key_up(Workstation& ws) {
+void Text65_key_up(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& w = k.Text65.text;
   if (w.empty() || w == "/" || w == "-") return;
@@ -225,7 +219,7 @@ void Text65_key_up(Workstation& ws) {
   }
 }
 
-void Text66_key_up(Workstation& ws) {
+void Text66_key_up(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& e = k.Text66.text;
   if (e.empty() || e == "/" || e == "." || e == "-") return;
@@ -243,7 +237,7 @@ void Text66_key_up(Workstation& ws) {
   }
 }
 
-void Text66_change(Workstation& ws) {
+void Text66_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& e = k.Text66.text;
   if (e.empty()) {
@@ -265,13 +259,12 @@ void Text66_change(Workstation& ws) {
   }
 }
 
-void Text66_leave(Workstation& ws) {
+void Text66_leave(Desk& ws) {
   Control& e = ws.FrmKashf.Text66;
   if (!is_reading(e.text)) return;
   const double v = val(e.text);
   if (v > val(ws.FrmOption.txtmaxm9.text)) {
-    ws.error(words::kEvaporationOutOfRange);
-    refuse(ws, e);
+    refuse(ws, e, words::kEvaporationOutOfRange);
   } else if (v > val(ws.FrmOption.txtmax9.text) && !ws.ask(words::kConfirmEvaporation)) {
     refuse(ws, e);
   }
@@ -279,58 +272,56 @@ void Text66_leave(Workstation& ws) {
 
 // ---- Wind run, sunshine ---------------------------------------------------------
 
-void Text67_change(Workstation& ws) {
+void Text67_change(Desk& ws) {
   Control& run = ws.FrmKashf.Text67;
   const std::string& t = run.text;
   if (t.empty() || t == "." || t == "/" || t == "//") return;
   for (std::size_t i = 1; i <= len(t); ++i) {
     if (is_digit(char_at(t, i))) continue;
-    ws.error(words::kCheckWindRun);
-    refuse(ws, run);
+    refuse(ws, run, words::kCheckWindRun);
     return;
   }
 }
 
-void Txttimesun_leave(Workstation& ws) {
+void Txttimesun_leave(Desk& ws) {
   Control& sun = ws.FrmKashf.Txttimesun;
   const std::string& t = sun.text;
   if (t.empty() || t == "/") return;
   const double v = val(t);
   if (!is_numeric(t) || v > 18 || v < 0) {
-    ws.error(words::kCheckSunshine);
-    refuse(ws, sun);
+    refuse(ws, sun, words::kCheckSunshine);
   }
 }
 
 }  // namespace
 
-void bind_ground_checks(Workstation& ws) {
+void bind_ground_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   for (const SoilDepth& d : kSoil) {
     Control& box = k.*d.box;
     const int row = d.row;
-    box.on(Event::Change, [&box](Workstation& w) { thermometer_typing(w, box, false); });
-    box.on(Event::Leave, [&box, row](Workstation& w) { soil_leave(w, box, row); });
+    box.on(Event::Change, [&box](Desk& w) { thermometer_typing(w, box, false); });
+    box.on(Event::Leave, [&box, row](Desk& w) { soil_leave(w, box, row); });
   }
   k.Text68.on(Event::Change, Text68_change);
   k.Text68.on(Event::Leave, Text68_leave);
-  k.Text68.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Text69); });
+  k.Text68.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Text69); });
   k.Text69.on(Event::Change, Text69_change);
   k.Text69.on(Event::Enter, Text69_enter);
-  k.Text70.on(Event::Change, [](Workstation& w) { snow_change(w, w.FrmKashf.Text70); });
-  k.Text70.on(Event::Enter, [](Workstation& w) { snow_enter(w, w.FrmKashf.Text70); });
+  k.Text70.on(Event::Change, [](Desk& w) { snow_change(w, w.FrmKashf.Text70); });
+  k.Text70.on(Event::Enter, [](Desk& w) { snow_enter(w, w.FrmKashf.Text70); });
   for (Control* c : Controls{&k.Text71, &k.Text72, &k.Text73})
-    c->on(Event::Change, [c](Workstation& w) { data_change(w, *c); });
+    c->on(Event::Change, [c](Desk& w) { data_change(w, *c); });
 
-  k.Text63.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text63, true); });
-  k.Text64.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text64, true); });
-  k.Text63.on(Event::Enter, [](Workstation& w) { ground_minimum_soft_ok(w); });
+  k.Text63.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text63, true); });
+  k.Text64.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text64, true); });
+  k.Text63.on(Event::Enter, [](Desk& w) { ground_minimum_soft_ok(w); });
   k.Text63.on(Event::Leave, Text63_leave);
-  k.Text64.on(Event::Enter, [](Workstation& w) { pan_soft(w, w.FrmKashf.Text63, -1, 20); });
+  k.Text64.on(Event::Enter, [](Desk& w) { pan_soft(w, w.FrmKashf.Text63, -1, 20); });
   k.Text64.on(Event::Leave, Text64_leave);
-  k.Text65.on(Event::Enter, [](Workstation& w) { pan_soft(w, w.FrmKashf.Text64, 5, 25); });
+  k.Text65.on(Event::Enter, [](Desk& w) { pan_soft(w, w.FrmKashf.Text64, 5, 25); });
   k.Text65.on(Event::KeyUp, Text65_key_up);
-  k.Text65.on(Event::KeyEnter, [](Workstation& w) { w.focus(w.FrmKashf.Text66); });
+  k.Text65.on(Event::KeyEnter, [](Desk& w) { w.focus(w.FrmKashf.Text66); });
   k.Text66.on(Event::KeyUp, Text66_key_up);
   k.Text66.on(Event::Change, Text66_change);
   k.Text66.on(Event::Leave, Text66_leave);

@@ -2,7 +2,8 @@
 
 #include "checks/temperature_words.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -10,20 +11,14 @@ bool is_reading(const std::string& text) {
   return !(text.empty() || text == "-" || text == "." || text == "-." || text == "/" || text == "//");
 }
 
-void refuse(Workstation& ws, Control& box) {
-  ws.set(box, "");
-  ws.focus(box);
-}
-
-bool within_hard(Workstation& ws, Control& box, double v, int row, const char* words) {
+bool within_hard(Desk& ws, Control& box, double v, int row, const char* words) {
   const FrmOption::LimitRow& r = ws.FrmOption.limit.at(static_cast<std::size_t>(row));
   if (v >= val(r.minm->text) && v <= val(r.maxm->text)) return true;
-  ws.error(words);
-  refuse(ws, box);
+  refuse(ws, box, words);
   return false;
 }
 
-bool within_soft(Workstation& ws, Control& box, double v, int row, const char* question) {
+bool within_soft(Desk& ws, Control& box, double v, int row, const char* question) {
   const FrmOption::LimitRow& r = ws.FrmOption.limit.at(static_cast<std::size_t>(row));
   if (v >= val(r.min->text) && v <= val(r.max->text)) return true;
   if (ws.ask(question)) return true;
@@ -45,10 +40,9 @@ bool thermometer_text_ok(const std::string& text, bool slash_ok) {
   return true;
 }
 
-void thermometer_typing(Workstation& ws, Control& box, bool slash_ok) {
+void thermometer_typing(Desk& ws, Control& box, bool slash_ok) {
   if (thermometer_text_ok(box.text, slash_ok)) return;
-  ws.error(words::kCheckTemperature);
-  refuse(ws, box);
+  refuse(ws, box, words::kCheckTemperature);
 }
 
 }  // namespace obsdesk

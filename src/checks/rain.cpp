@@ -8,10 +8,11 @@
 // "/" (not available) makes every sum it is part of "/".
 #include "checks/rain.h"
 
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "checks/entry_checks.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -41,23 +42,23 @@ bool digits_and_one_point(std::string_view t) {
 }
 
 // The field is emptied and keeps the focus.
-void clear_and_keep(Workstation& ws, Control& box) {
+void clear_and_keep(Desk& ws, Control& box) {
   ws.set(box, "");
   ws.focus(box);
 }
 
-void refuse(Workstation& ws, Control& box, const char* words) {
+void refuse(Desk& ws, Control& box, const char* words) {
   ws.error(words);
   clear_and_keep(ws, box);
 }
 
-RainTable read_table(const Workstation& ws) {
+RainTable read_table(const Desk& ws) {
   RainTable t;
   for (std::size_t i = 0; i < t.size(); ++i) t[i] = ws.FrmMain.rain[i]->text;
   return t;
 }
 
-bool twelve_hour_station(const Workstation& ws) { return ws.FrmOption.Combo1.text == kStation12; }
+bool twelve_hour_station(const Desk& ws) { return ws.FrmOption.Combo1.text == kStation12; }
 
 // Where Enter leaves a box, by UTC hour; the last row (-1) serves every other hour.
 struct Exit {
@@ -80,7 +81,7 @@ constexpr Exit kPressureExits[] = {
 };
 
 template <std::size_t N>
-void walk(Workstation& ws, const Exit (&exits)[N]) {
+void walk(Desk& ws, const Exit (&exits)[N]) {
   const int hour = entry_hour(ws);
   for (const Exit& e : exits) {
     if (e.hour == hour || e.hour == -1) {
@@ -93,7 +94,7 @@ void walk(Workstation& ws, const Exit (&exits)[N]) {
 // ---- The rain boxes ---------------------------------------------------------------
 
 // One typing rule for Text42, Text50 and the three sums.
-void rain_box_change(Workstation& ws, Control& box) {
+void rain_box_change(Desk& ws, Control& box) {
   const std::string t = box.text;
   if (t.empty() || t == "/") return;
   const std::string u = upper(t);
@@ -106,7 +107,7 @@ void rain_box_change(Workstation& ws, Control& box) {
 
 // Entering the rain box tests the height of the high cloud once more, when
 // there is a sky with cloud to have it.
-void rain_box_enter(Workstation& ws) {
+void rain_box_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string n = k.Text5.text;
   if (n.empty() || is_trace(n) || val(n) == 0 || val(n) == 9) return;
@@ -116,7 +117,7 @@ void rain_box_enter(Workstation& ws) {
   cloud_height_ok(ws, k.Text22);
 }
 
-void rain_box_leave(Workstation& ws, Control& box) {
+void rain_box_leave(Desk& ws, Control& box) {
   FrmKashf& k = ws.FrmKashf;
   // Only here does an empty text mean no rain.
   if (box.text.empty() || box.text == ".") ws.set(box, "0");
@@ -161,7 +162,7 @@ void rain_box_leave(Workstation& ws, Control& box) {
 // The characteristic a of 5appp is one figure, 0 to 8; anything else would put
 // a letter or a blank into the group. Characteristic 4 is a steady pressure: its
 // amount is 0.
-void Text38_change(Workstation& ws) {
+void Text38_change(Desk& ws) {
   TextBox& box = ws.FrmKashf.Text38;
   const std::string& t = box.text;
   if (t.empty()) return;
@@ -176,7 +177,7 @@ void Text38_change(Workstation& ws) {
 // a SYNOP group is made of: figures and "/", groups one blank apart.
 constexpr const char* kQntCheck = "مقدار QNT را چك نمائيد";
 
-void TXT_QNT_change(Workstation& ws) {
+void TXT_QNT_change(Desk& ws) {
   TextBox& box = ws.FrmKashf.TXT_QNT;
   for (char c : box.text)
     if ((c < '0' || c > '9') && c != '/' && c != ' ') {
@@ -186,7 +187,7 @@ void TXT_QNT_change(Workstation& ws) {
 }
 
 // On leaving, every group has its five characters.
-void TXT_QNT_leave(Workstation& ws) {
+void TXT_QNT_leave(Desk& ws) {
   TextBox& box = ws.FrmKashf.TXT_QNT;
   const std::string& t = box.text;
   if (t.empty()) return;
@@ -203,12 +204,12 @@ void TXT_QNT_leave(Workstation& ws) {
   if (bad) refuse(ws, box, kQntCheck);
 }
 
-void Text25_change(Workstation& ws) {
+void Text25_change(Desk& ws) {
   TextBox& box = ws.FrmKashf.Text25;
   if (!digits_and_one_point(box.text)) refuse(ws, box, kTendencyCheck);
 }
 
-void Text25_leave(Workstation& ws) {
+void Text25_leave(Desk& ws) {
   TextBox& box = ws.FrmKashf.Text25;
   if (box.text.empty() || box.text == ".") return;
   const double hpa = val(box.text);
@@ -219,7 +220,7 @@ void Text25_leave(Workstation& ws) {
   }
 }
 
-void Text25_key_enter(Workstation& ws) {
+void Text25_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text25.text.empty()) return;
   const std::string n = k.Text5.text;
@@ -268,23 +269,23 @@ std::string six_hour_rain(const RainTable& table, int hour, bool night_reading) 
   }
 }
 
-int entry_hour(const Workstation& ws) {
+int entry_hour(const Desk& ws) {
   const std::string& t = ws.FrmKashf.Text1.text;
   if (t.empty()) return -1;
   const double h = val(t);
   return h >= 0 && h < 100 ? static_cast<int>(h) : -1;  // no hour of a day beyond that
 }
 
-void wire_rain(Workstation& ws) {
+void wire_rain(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   for (Control* c : Controls{&k.Text42, &k.Text50, &k.Text51, &k.Text53, &k.txtpast6})
-    c->on(Event::Change, [c](Workstation& w) { rain_box_change(w, *c); });
+    c->on(Event::Change, [c](Desk& w) { rain_box_change(w, *c); });
   for (Control* c : Controls{&k.Text42, &k.Text50}) {
     c->on(Event::Enter, rain_box_enter);
-    c->on(Event::Leave, [c](Workstation& w) { rain_box_leave(w, *c); });
-    c->on(Event::KeyEnter, [](Workstation& w) { walk(w, kRainExits); });
+    c->on(Event::Leave, [c](Desk& w) { rain_box_leave(w, *c); });
+    c->on(Event::KeyEnter, [](Desk& w) { walk(w, kRainExits); });
   }
-  k.Text18.on(Event::KeyEnter, [](Workstation& w) { walk(w, kPressureExits); });
+  k.Text18.on(Event::KeyEnter, [](Desk& w) { walk(w, kPressureExits); });
   k.Text38.on(Event::Change, Text38_change);
   k.TXT_QNT.on(Event::Change, TXT_QNT_change);
   k.TXT_QNT.on(Event::Leave, TXT_QNT_leave);

@@ -7,7 +7,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 struct Control;
 
 // The eight readings of the day, by main hour 00, 03, ... 21: a number, "TR"
@@ -25,8 +25,8 @@ std::string rain_sum(const RainTable& table, std::initializer_list<int> hours);
 std::string six_hour_rain(const RainTable& table, int hour, bool night_reading);
 
 // The UTC hour typed in Text1, -1 when it is empty.
-int entry_hour(const Workstation& ws);
+int entry_hour(const Desk& ws);
 
-void wire_rain(Workstation& ws);
+void wire_rain(Desk& ws);
 
 }  // namespace obsdesk

@@ -8,11 +8,13 @@
 
 #include "checks/limits.h"
 #include "checks/temperature_words.h"
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "checks/entry_checks.h"
+#include "screens/boards.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
-#include "physics/pressure_entry.h"
+#include "screens/desk.h"
+#include "checks/pressure_entry.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -20,7 +22,7 @@ namespace {
 
 constexpr int kAir = 1, kWetBulb = 2;
 
-bool twelve_hour_station(Workstation& ws) { return ws.FrmOption.Combo1.text == kStation12; }
+bool twelve_hour_station(Desk& ws) { return ws.FrmOption.Combo1.text == kStation12; }
 
 // Present weather of snow and ice: rain and snow, snow, ice pellets, showers of
 // snow and hail, thunderstorm with hail.
@@ -29,7 +31,7 @@ bool snow_or_ice(int ww) {
 }
 
 // The hours at which a 12-hour station reads only the dry bulb: 18, 21 and 00.
-bool first_form(Workstation& ws) {
+bool first_form(Desk& ws) {
   const std::string& hour = ws.FrmKashf.Text1.text;
   if (!twelve_hour_station(ws) || hour.empty()) return false;
   const double h = val(hour);
@@ -38,7 +40,7 @@ bool first_form(Workstation& ws) {
 
 // Asks whether the observer types RH in place of the wet bulb. True on Yes: the
 // humidity mode is on and RH takes the focus.
-bool humidity_instead(Workstation& ws) {
+bool humidity_instead(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (ws.ask(words::kHumidityInstead)) {
     ws.humidity_mode = 1;
@@ -52,7 +54,7 @@ bool humidity_instead(Workstation& ws) {
 
 // The hard and then the soft air pair on the dry bulb, rounded to one decimal
 // between them. False when the box was emptied.
-bool dry_bulb_within_air(Workstation& ws) {
+bool dry_bulb_within_air(Desk& ws) {
   Control& tdry = ws.FrmKashf.Text27;
   if (!within_hard(ws, tdry, val(tdry.text), kAir, words::kTemperatureOutOfRange)) return false;
   ws.set(tdry, round_text(val(tdry.text), 1));
@@ -61,14 +63,14 @@ bool dry_bulb_within_air(Workstation& ws) {
 
 // ---- TDRY -----------------------------------------------------------------------
 
-void Text27_change(Workstation& ws) {
+void Text27_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   thermometer_typing(ws, k.Text27, false);
   if (!is_reading(k.Text27.text) || val(k.Text27.text) <= 3) return;
   if (snow_or_ice(present_weather_code(ws)) && !ws.ask(words::kConfirmTemperatureSnow)) refuse(ws, k.Text27);
 }
 
-void Text27_enter(Workstation& ws) {
+void Text27_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
   // 1. A METAR continues the last main report three hours on.
@@ -101,7 +103,7 @@ void Text27_enter(Workstation& ws) {
   }
 }
 
-void Text27_key_enter(Workstation& ws) {
+void Text27_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& tdry = k.Text27;
   if (first_form(ws)) {
@@ -120,7 +122,7 @@ void Text27_key_enter(Workstation& ws) {
   if (!tdry.text.empty()) ws.focus(k.Text28);
 }
 
-void Text27_leave(Workstation& ws) {
+void Text27_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
   Control& tdry = k.Text27;
@@ -156,7 +158,7 @@ void Text27_leave(Workstation& ws) {
 // ---- TWET -----------------------------------------------------------------------
 
 // The dry bulb is tested again as the wet bulb is begun.
-void Text28_enter(Workstation& ws) {
+void Text28_enter(Desk& ws) {
   Control& tdry = ws.FrmKashf.Text27;
   if (!is_reading(tdry.text)) return;
   ws.set(tdry, round_text(val(tdry.text), 1));
@@ -164,7 +166,7 @@ void Text28_enter(Workstation& ws) {
   within_soft(ws, tdry, val(tdry.text), kAir, words::kConfirmBoxBefore);
 }
 
-void Text28_leave(Workstation& ws) {
+void Text28_leave(Desk& ws) {
   Control& twet = ws.FrmKashf.Text28;
   if (!is_reading(twet.text)) return;
   if (!within_hard(ws, twet, val(twet.text), kWetBulb, words::kTemperatureOutOfRange)) return;
@@ -175,7 +177,7 @@ void Text28_leave(Workstation& ws) {
 
 // ---- txtt12 ---------------------------------------------------------------------
 
-void txtt12_key_enter(Workstation& ws) {
+void txtt12_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& t12 = k.txtt12;
   if (t12.text.empty()) return;
@@ -213,7 +215,7 @@ std::optional<double> lowest_reading(FrmMain& m) {
 
 // An extreme against the main hours before it: a breach is told; TMIN3 then
 // takes the lowest reading of the day, TMAX3 is emptied. False on a breach.
-bool extreme_against_hours(Workstation& ws, Control& box, bool maximum) {
+bool extreme_against_hours(Desk& ws, Control& box, bool maximum) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
   if (k.Text1.text.empty()) return true;
@@ -239,20 +241,19 @@ bool extreme_against_hours(Workstation& ws, Control& box, bool maximum) {
   return true;
 }
 
-void Text59_leave(Workstation& ws) {
+void Text59_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& tmin = k.Text59;
   if (!is_reading(tmin.text)) return;
   if (!within_hard(ws, tmin, val(tmin.text), kAir, words::kExtremeOutOfRange)) return;
   if (is_reading(k.Text27.text) && val(tmin.text) > val(k.Text27.text)) {
-    ws.error(words::kCheckTemperature);
-    refuse(ws, tmin);
+    refuse(ws, tmin, words::kCheckTemperature);
     return;
   }
   extreme_against_hours(ws, tmin, false);
 }
 
-void Text60_leave(Workstation& ws) {
+void Text60_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& tmax = k.Text60;
   if (!is_reading(tmax.text)) return;
@@ -264,13 +265,11 @@ void Text60_leave(Workstation& ws) {
     return;
   }
   if (val(k.Text59.text) > val(tmax.text)) {
-    ws.error(words::kMinimumAboveMaximum);
-    refuse(ws, tmax);
+    refuse(ws, tmax, words::kMinimumAboveMaximum);
     return;
   }
   if (is_reading(k.Text27.text) && val(tmax.text) < val(k.Text27.text)) {
-    ws.error(words::kCheckMaximum);
-    refuse(ws, tmax);
+    refuse(ws, tmax, words::kCheckMaximum);
     return;
   }
   if (!extreme_against_hours(ws, tmax, true)) return;
@@ -279,7 +278,7 @@ void Text60_leave(Workstation& ws) {
 
 // With cloud in the sky the heights of the middle and high layer are tested
 // once more before the extremes.
-void Text59_enter(Workstation& ws) {
+void Text59_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& n = k.Text5.text;
   if (n.empty() || n == "TR" || val(n) == 0 || val(n) == 9) return;
@@ -287,12 +286,12 @@ void Text59_enter(Workstation& ws) {
   if (cloud_height_ok(ws, k.Text16)) cloud_height_ok(ws, k.Text22);
 }
 
-void Text59_key_enter(Workstation& ws) {
+void Text59_key_enter(Desk& ws) {
   if (!ws.FrmKashf.Text59.text.empty()) ws.focus(ws.FrmKashf.Text60);
 }
 
 // From the extremes to the rain of the period, in the box the station uses.
-void Text60_key_enter(Workstation& ws) {
+void Text60_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text60.text.empty()) return;
   ws.focus(k.Text42.visible ? static_cast<Control&>(k.Text42) : k.Text50);
@@ -301,35 +300,34 @@ void Text60_key_enter(Workstation& ws) {
 // ---- QFE typed by hand ------------------------------------------------------------
 
 // Figures and one point, as any published station pressure is.
-void Text18_change(Workstation& ws) {
+void Text18_change(Desk& ws) {
   Control& qfe = ws.FrmKashf.Text18;
   int points = 0;
   for (std::size_t i = 1; i <= len(qfe.text); ++i) {
     const std::string ch = char_at(qfe.text, i);
     if (is_digit(ch)) continue;
     if (ch == "." && ++points == 1) continue;
-    ws.error(words::kCheckPressure);
-    refuse(ws, qfe);
+    refuse(ws, qfe, words::kCheckPressure);
     return;
   }
 }
 
 }  // namespace
 
-void bind_temperature_checks(Workstation& ws) {
+void bind_temperature_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text27.on(Event::Change, Text27_change);
   k.Text27.on(Event::Enter, Text27_enter);
   k.Text27.on(Event::KeyEnter, Text27_key_enter);
   k.Text27.on(Event::Leave, Text27_leave);
-  k.Text28.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text28, false); });
+  k.Text28.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text28, false); });
   k.Text28.on(Event::Enter, Text28_enter);
   k.Text28.on(Event::Leave, Text28_leave);
-  k.Text13.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text13, false); });
-  k.txtt12.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.txtt12, false); });
+  k.Text13.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text13, false); });
+  k.txtt12.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.txtt12, false); });
   k.txtt12.on(Event::KeyEnter, txtt12_key_enter);
-  k.Text59.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text59, false); });
-  k.Text60.on(Event::Change, [](Workstation& w) { thermometer_typing(w, w.FrmKashf.Text60, false); });
+  k.Text59.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text59, false); });
+  k.Text60.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text60, false); });
   k.Text59.on(Event::Enter, Text59_enter);
   k.Text59.on(Event::Leave, Text59_leave);
   k.Text60.on(Event::Leave, Text60_leave);

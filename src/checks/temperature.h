@@ -6,7 +6,7 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 
 // Sign figure and two-figure value of the ground minimum for 3EsnTgTg: a value
 // ending in 5 is moved 0.1 away from zero before it is rounded. False for a text
@@ -21,7 +21,7 @@ std::string snow_depth_figures(const std::string& text);
 double evaporation_from_water(double water_cc, double rain_mm);
 double water_from_evaporation(double evaporation_mm, double rain_mm);
 
-void bind_temperature_checks(Workstation& ws);
-void bind_ground_checks(Workstation& ws);
+void bind_temperature_checks(Desk& ws);
+void bind_ground_checks(Desk& ws);
 
 }  // namespace obsdesk

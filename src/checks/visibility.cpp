@@ -5,10 +5,10 @@
 #include <array>
 
 #include "checks/entry_checks.h"
-#include "core/record.h"
-#include "core/session.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -58,12 +58,12 @@ std::size_t bad_visibility_place(const std::string& t) {
 
 bool asks_confirmation(double metres) { return metres > 20000 || metres < 100; }
 
-void Text4_change(Workstation& ws) {
+void Text4_change(Desk& ws) {
   TextBox& vh = ws.FrmKashf.Text4;
   if (bad_visibility_place(vh.text) != 0) refuse(ws, vh, kTypeVisibility);
 }
 
-void Text4_enter(Workstation& ws) {
+void Text4_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text3.text.empty()) {
     ws.error(kTypeSpeedFirst);
@@ -71,7 +71,7 @@ void Text4_enter(Workstation& ws) {
   }
 }
 
-void Text4_leave(Workstation& ws) {
+void Text4_leave(Desk& ws) {
   TextBox& vh = ws.FrmKashf.Text4;
   if (vh.text.empty()) {
     // Told, not held: the wind box may be asking for the focus at the same time.
@@ -91,14 +91,14 @@ void Text4_leave(Workstation& ws) {
   ws.set(vh, num(cut_to_5000(m)));
 }
 
-void Text4_key_enter(Workstation& ws) {
+void Text4_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text4.text.empty()) return;
   ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text5) : k.TxtVM);
 }
 
 // The character rule of the minimum and the maximum, with the borrowed words.
-bool extreme_characters_ok(Workstation& ws, Control& box) {
+bool extreme_characters_ok(Desk& ws, Control& box) {
   const std::size_t bad = bad_visibility_place(box.text);
   if (bad == 0) return true;
   refuse(ws, box, bad == 1 ? kBorrowedFirst : kBorrowedOther);
@@ -106,7 +106,7 @@ bool extreme_characters_ok(Workstation& ws, Control& box) {
 }
 
 // Steps of VH's leaving shared by the minimum and the maximum. False when refused.
-bool extreme_to_metres(Workstation& ws, Control& box, const char* words, double& m) {
+bool extreme_to_metres(Desk& ws, Control& box, const char* words, double& m) {
   if (!visibility_metres(box.text, m)) {
     refuse(ws, box, words);
     return false;
@@ -115,7 +115,7 @@ bool extreme_to_metres(Workstation& ws, Control& box, const char* words, double&
   return true;
 }
 
-void TxtVM_enter(Workstation& ws) {
+void TxtVM_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text3.text.empty()) {
     ws.error(kTypeSpeedFirst);
@@ -123,19 +123,19 @@ void TxtVM_enter(Workstation& ws) {
   }
 }
 
-void TxtVM_leave(Workstation& ws) {
+void TxtVM_leave(Desk& ws) {
   TextBox& vm = ws.FrmKashf.TxtVM;
   vm.back_color = kOrange;
   double m = 0;
   if (!vm.text.empty()) extreme_to_metres(ws, vm, kCheckMinimum, m);
 }
 
-void TxtVM_key_enter(Workstation& ws) {
+void TxtVM_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text5) : k.CMbMAX);
 }
 
-void Text26_change(Workstation& ws) {
+void Text26_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (!extreme_characters_ok(ws, k.Text26) || k.Text26.text.empty()) return;
   if (k.CMbMAX.text.empty()) {
@@ -147,7 +147,7 @@ void Text26_change(Workstation& ws) {
   }
 }
 
-void Text26_leave(Workstation& ws) {
+void Text26_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   TextBox& mx = k.Text26;
   mx.back_color = kOrange;
@@ -164,7 +164,7 @@ void Text26_leave(Workstation& ws) {
 
 // A direction list: one of the eight or a reversed pair, and the visibility it
 // belongs to typed first. on_click: the test of a choice from the list.
-void direction_rule(Workstation& ws, ComboBox& list, bool on_click) {
+void direction_rule(Desk& ws, ComboBox& list, bool on_click) {
   FrmKashf& k = ws.FrmKashf;
   if (list.text.empty()) return;
   if (stored_direction(list.text).empty()) {
@@ -186,7 +186,7 @@ void direction_rule(Workstation& ws, ComboBox& list, bool on_click) {
   }
 }
 
-void direction_leave(Workstation& ws, ComboBox& list) {
+void direction_leave(Desk& ws, ComboBox& list) {
   list.back_color = kOrange;
   if (list.text.empty()) return;
   const std::string_view stored = stored_direction(list.text);
@@ -199,7 +199,7 @@ void direction_leave(Workstation& ws, ComboBox& list) {
   ws.set(list, std::string(stored));
 }
 
-void CMbMIN_enter(Workstation& ws) {
+void CMbMIN_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.TxtVM.text.empty() && k.Text26.text.empty()) {
     ws.error(kTypeMaximum);
@@ -226,22 +226,22 @@ double cut_to_5000(double metres) {
   return metres;
 }
 
-void wire_visibility(Workstation& ws) {
+void wire_visibility(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text4.on(Event::Change, Text4_change);
   k.Text4.on(Event::Enter, Text4_enter);
   k.Text4.on(Event::Leave, Text4_leave);
   k.Text4.on(Event::KeyEnter, Text4_key_enter);
-  k.TxtVM.on(Event::Change, [](Workstation& w) { extreme_characters_ok(w, w.FrmKashf.TxtVM); });
+  k.TxtVM.on(Event::Change, [](Desk& w) { extreme_characters_ok(w, w.FrmKashf.TxtVM); });
   k.TxtVM.on(Event::Enter, TxtVM_enter);
   k.TxtVM.on(Event::Leave, TxtVM_leave);
   k.TxtVM.on(Event::KeyEnter, TxtVM_key_enter);
   k.Text26.on(Event::Change, Text26_change);
   k.Text26.on(Event::Leave, Text26_leave);
   for (ComboBox* list : {&k.CMbMAX, &k.CMbMIN}) {
-    list->on(Event::Change, [list](Workstation& w) { direction_rule(w, *list, false); });
-    list->on(Event::Click, [list](Workstation& w) { direction_rule(w, *list, true); });
-    list->on(Event::Leave, [list](Workstation& w) { direction_leave(w, *list); });
+    list->on(Event::Change, [list](Desk& w) { direction_rule(w, *list, false); });
+    list->on(Event::Click, [list](Desk& w) { direction_rule(w, *list, true); });
+    list->on(Event::Leave, [list](Desk& w) { direction_leave(w, *list); });
   }
   k.CMbMIN.on(Event::Enter, CMbMIN_enter);
 }

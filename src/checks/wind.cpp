@@ -4,11 +4,10 @@
 // texts of 21 UTC (Txtmaxwind, Txttond). Each box is checked at every change and
 // on leaving; the entered forms are normalised in place, as the coders read them.
 #include "checks/entry_checks.h"
-#include "core/record.h"
-#include "core/seams.h"
-#include "core/session.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -42,7 +41,7 @@ bool multiple_of_ten(const std::string& t) {
 // The change rule of a direction box. The shortcuts "c" and "v" are common to
 // DD and to the limits; "0" (no direction) and the move to the next box belong
 // to DD alone. False when the text was refused.
-bool direction_ok(Workstation& ws, Control& box, bool is_dd) {
+bool direction_ok(Desk& ws, Control& box, bool is_dd) {
   FrmKashf& k = ws.FrmKashf;
   const std::string t = box.text;
   if (t.empty() || t == kNoDirection || t == kVariable || t == kCalm) return true;
@@ -72,11 +71,11 @@ bool direction_ok(Workstation& ws, Control& box, bool is_dd) {
   return true;
 }
 
-void Text2_change(Workstation& ws) { direction_ok(ws, ws.FrmKashf.Text2, true); }
+void Text2_change(Desk& ws) { direction_ok(ws, ws.FrmKashf.Text2, true); }
 
 // Directions below 100 are typed with two figures ("50"), since a first "0" is
 // taken at once as no direction; they are stored with three.
-void Text2_leave(Workstation& ws) {
+void Text2_leave(Desk& ws) {
   TextBox& dd = ws.FrmKashf.Text2;
   const std::string t = dd.text;
   if (t.empty() || ((len(t) == 2 || len(t) == 3) && !multiple_of_ten(t))) {
@@ -86,15 +85,15 @@ void Text2_leave(Workstation& ws) {
   if (len(t) == 2) ws.set(dd, "0" + t);
 }
 
-void Text2_enter(Workstation& ws) {
+void Text2_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (hour_is(ws, {"00", "0", "06", "6", "12", "18"}) && left(k.Text48.text, 1) == "4") {
     ws.message(kIrixFour);
-    open_irix_picker(ws, true);
+    ws.handoffs.open_irix_picker(ws, true);
   }
 }
 
-void Text2_key_enter(Workstation& ws) {
+void Text2_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text2.text.empty()) return;
   // The limits of a variable direction are not reported in a SYNOP.
@@ -102,7 +101,7 @@ void Text2_key_enter(Workstation& ws) {
 }
 
 // The wind group of the code panel: direction, speed, gust, in knots' form.
-void write_wind_group(Workstation& ws) {
+void write_wind_group(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   std::string dd = trim(k.Text2.text);
   if (dd == kCalm) dd = "000";
@@ -114,7 +113,7 @@ void write_wind_group(Workstation& ws) {
 
 // The change rule of a speed: at most three figures, and two or more above the
 // station's soft limit are confirmed.
-bool speed_ok(Workstation& ws, Control& box) {
+bool speed_ok(Desk& ws, Control& box) {
   const std::string t = box.text;
   if (t.empty()) return true;
   if (len(t) > 3 || !all_digits(t)) {
@@ -130,14 +129,14 @@ bool speed_ok(Workstation& ws, Control& box) {
   return true;
 }
 
-void Text3_change(Workstation& ws) { speed_ok(ws, ws.FrmKashf.Text3); }
+void Text3_change(Desk& ws) { speed_ok(ws, ws.FrmKashf.Text3); }
 
-void TXTGUSTY_change(Workstation& ws) {
+void TXTGUSTY_change(Desk& ws) {
   speed_ok(ws, ws.FrmKashf.TXTGUSTY);
   write_wind_group(ws);
 }
 
-void Text3_enter(Workstation& ws) {
+void Text3_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& dd = k.Text2.text;
   if (dd == kVariable || dd == kCalm) return;
@@ -149,7 +148,7 @@ void Text3_enter(Workstation& ws) {
   }
 }
 
-void Text3_leave(Workstation& ws) {
+void Text3_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   TextBox& ff = k.Text3;
   const std::string t = ff.text;
@@ -168,38 +167,38 @@ void Text3_leave(Workstation& ws) {
   }
 }
 
-void Text3_key_enter(Workstation& ws) {
+void Text3_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text3.text.empty()) return;
   ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text4) : k.TXTGUSTY);
 }
 
 // The wind texts of 21 UTC are five characters or nothing (five blanks).
-void five_characters(Workstation& ws, Control& box, const char* words) {
+void five_characters(Desk& ws, Control& box, const char* words) {
   if (box.text.empty()) ws.set(box, "     ");
   else if (len(box.text) != 5) refuse(ws, box, words);
 }
 
 }  // namespace
 
-void wire_wind(Workstation& ws) {
+void wire_wind(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text2.on(Event::Change, Text2_change);
   k.Text2.on(Event::Leave, Text2_leave);
   k.Text2.on(Event::Enter, Text2_enter);
   k.Text2.on(Event::KeyEnter, Text2_key_enter);
   for (TextBox* limit : {&k.Text40, &k.Text39}) {
-    limit->on(Event::Change, [limit](Workstation& w) { direction_ok(w, *limit, false); });
-    limit->on(Event::Leave, [limit](Workstation&) { limit->back_color = kOrange; });
+    limit->on(Event::Change, [limit](Desk& w) { direction_ok(w, *limit, false); });
+    limit->on(Event::Leave, [limit](Desk&) { limit->back_color = kOrange; });
   }
   k.Text3.on(Event::Change, Text3_change);
   k.Text3.on(Event::Enter, Text3_enter);
   k.Text3.on(Event::Leave, Text3_leave);
   k.Text3.on(Event::KeyEnter, Text3_key_enter);
   k.TXTGUSTY.on(Event::Change, TXTGUSTY_change);
-  k.TXTGUSTY.on(Event::Leave, [](Workstation& w) { w.FrmKashf.TXTGUSTY.back_color = kOrange; });
-  k.Txtmaxwind.on(Event::Leave, [](Workstation& w) { five_characters(w, w.FrmKashf.Txtmaxwind, kCheckMaxWind); });
-  k.Txttond.on(Event::Leave, [](Workstation& w) { five_characters(w, w.FrmKashf.Txttond, kCheckGustRecord); });
+  k.TXTGUSTY.on(Event::Leave, [](Desk& w) { w.FrmKashf.TXTGUSTY.back_color = kOrange; });
+  k.Txtmaxwind.on(Event::Leave, [](Desk& w) { five_characters(w, w.FrmKashf.Txtmaxwind, kCheckMaxWind); });
+  k.Txttond.on(Event::Leave, [](Desk& w) { five_characters(w, w.FrmKashf.Txttond, kCheckGustRecord); });
 }
 
 }  // namespace obsdesk

@@ -6,9 +6,9 @@
 
 #include "bank/sqlite.h"
 #include "cli/bank_files.h"
-#include "core/program.h"
+#include "station/program.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace obsdesk {
 
@@ -80,7 +80,7 @@ Runner::Runner(std::filesystem::path bank_root, std::ostream& out)
 
 Runner::~Runner() = default;
 
-Workstation& Runner::require_started() {
+Desk& Runner::require_started() {
   if (!ws_) throw ScriptError("the program has not been started (use start)");
   if (ws_->ended()) throw ScriptError("the program has ended (use start)");
   return *ws_;
@@ -89,7 +89,7 @@ Workstation& Runner::require_started() {
 std::string Runner::value_of(std::string_view name) {
   if (name == "clipboard") return clipboard_.text();
   if (name == "ended") return ws_ && ws_->ended() ? "1" : "0";  // the program has ended itself
-  Workstation& ws = require_started();
+  Desk& ws = require_started();
   if (name == "focus") return ws.focused() ? ws.focused()->full_name() : "";
   if (name == "screen") return ws.active_screen() ? ws.active_screen()->name : "";
   if (name == "SYNOP_coded") return std::to_string(ws.SYNOP_coded);
@@ -108,7 +108,7 @@ std::string Runner::value_of(std::string_view name) {
 }
 
 std::string Runner::dump(std::string_view screen_name) {
-  Workstation& ws = require_started();
+  Desk& ws = require_started();
   Screen* s = ws.screen(screen_name);
   if (s == nullptr) throw ScriptError("unknown screen " + std::string(screen_name));
   std::ostringstream o;

@@ -15,6 +15,7 @@
 
 namespace obsdesk {
 
+class Desk;
 class Workstation;
 
 // A line the runner cannot carry out: unknown command or control, bad arguments.
@@ -56,7 +57,7 @@ class Runner {
   Workstation* workstation() { return ws_.get(); }
 
  private:
-  Workstation& require_started();
+  Desk& require_started();
   std::string value_of(std::string_view name);
   std::string dump(std::string_view screen);
 

@@ -2,8 +2,8 @@
 // failure shows its words and moves the focus; the observer may still click later.
 #include "coders/metar.h"
 #include "coders/synop.h"
-#include "core/seams.h"
-#include "core/workstation.h"
+#include "screens/boards.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -15,7 +15,7 @@ const char* const kWeatherAgainstClearSky = "هواي حاضر با ميزان �
 
 }  // namespace
 
-bool metar_focus_checks(Workstation& ws) {
+bool metar_focus_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   // The two METAR weather choices, compared by the picture each shows.
   if (!k.Image10.text.empty() && k.Image10.text == k.Image8.text && k.LabVC.text == "None") {
@@ -37,8 +37,8 @@ bool metar_focus_checks(Workstation& ws) {
   return true;
 }
 
-void Command4_enter(Workstation& ws) { metar_focus_checks(ws); }
+void Command4_enter(Desk& ws) { metar_focus_checks(ws); }
 
-void Command4_click(Workstation& ws) { run_metar_coder(ws, MetarForm::Metar); }
+void Command4_click(Desk& ws) { run_metar_coder(ws, MetarForm::Metar); }
 
 }  // namespace obsdesk

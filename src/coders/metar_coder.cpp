@@ -9,10 +9,10 @@
 #include "coders/metar.h"
 #include "coders/metar_groups.h"
 #include "coders/syntax_gate.h"
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "screens/boards.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -44,7 +44,7 @@ std::vector<std::string> frame1_groups(FrmCode& p) {
 }
 
 // A group with a value goes into its box; a group with none leaves the box as it is.
-void put(Workstation& ws, TextBox& box, const std::string& group) {
+void put(Desk& ws, TextBox& box, const std::string& group) {
   if (!group.empty()) ws.set(box, group);
 }
 
@@ -55,7 +55,7 @@ bool low_convective(const FrmKashf& k) {
 }
 
 // Checks before coding; false ends the run.
-bool start_checks(Workstation& ws) {
+bool start_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   bool trace = false;
   double sum = 0;
@@ -73,12 +73,12 @@ bool start_checks(Workstation& ws) {
 }
 
 // Empty boxes of the layers read as none: "0" in the fields themselves.
-void zero_if_empty(Workstation& ws, std::initializer_list<TextBox*> boxes) {
+void zero_if_empty(Desk& ws, std::initializer_list<TextBox*> boxes) {
   for (TextBox* b : boxes)
     if (b->text.empty()) ws.set(*b, "0");
 }
 
-void clear_panel(Workstation& ws, MetarForm form) {
+void clear_panel(Desk& ws, MetarForm form) {
   FrmCode& p = ws.FrmCode;
   std::vector<TextBox*> boxes = {&p.TXTSKC, &p.Text56, &p.Text57, &p.Text58, &p.Text59, &p.Text60};
   // A SPECI keeps the other groups of an earlier report until they are written again.
@@ -89,7 +89,7 @@ void clear_panel(Workstation& ws, MetarForm form) {
   for (TextBox* b : boxes) ws.set(*b, "");
 }
 
-void metar_time_step(Workstation& ws) {
+void metar_time_step(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   if (k.Combo5.text == kMetar30) {
@@ -108,7 +108,7 @@ void metar_time_step(Workstation& ws) {
 double cloud_figure(const FrmKashf& k) { return is_trace(k.Text5.text) ? 1 : val(k.Text5.text); }
 
 // Visibility, CAVOK, SKC and NSC; false when the sky groups disagree with the weather.
-bool sky_step(Workstation& ws, double figure) {
+bool sky_step(Desk& ws, double figure) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   const bool by_minimum = !k.TxtVM.text.empty();
@@ -142,7 +142,7 @@ bool sky_step(Workstation& ws, double figure) {
   return true;
 }
 
-void second_visibility_step(Workstation& ws) {
+void second_visibility_step(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text26.text.empty()) return;
   const double vmax = coder_number(k.Text26.text, "MAXVV");
@@ -177,7 +177,7 @@ CloudLayers layers_of(const FrmKashf& k) {
 
 // Cloud groups, emptied under NSC and CAVOK, and for a METAR the merging of two
 // convective layers at one height.
-void cloud_step(Workstation& ws, MetarForm form, double figure) {
+void cloud_step(Desk& ws, MetarForm form, double figure) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   const auto boxes = cloud_boxes(p);
@@ -210,7 +210,7 @@ void cloud_step(Workstation& ws, MetarForm form, double figure) {
 
 // The entry box a METAR or SPECI group is made from, for the focus when the group
 // fails the final check.
-Control* metar_source(Workstation& ws, const std::string& group) {
+Control* metar_source(Desk& ws, const std::string& group) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   const std::pair<Control*, Control*> sources[] = {
@@ -222,7 +222,7 @@ Control* metar_source(Workstation& ws, const std::string& group) {
 }
 
 // The run up to the report text; false when it ended early.
-bool run(Workstation& ws, MetarForm form) {
+bool run(Desk& ws, MetarForm form) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   if (form == MetarForm::Speci) {
@@ -276,7 +276,7 @@ bool run(Workstation& ws, MetarForm form) {
 
 // A run that ended early leaves no report of its form behind, not even an
 // earlier one.
-void forget(Workstation& ws, MetarForm form) {
+void forget(Desk& ws, MetarForm form) {
   FrmKashf& k = ws.FrmKashf;
   k.ZAKHIREH.enabled = false;  // confirmation waits again for a report that codes
   if (form == MetarForm::Speci) {
@@ -294,7 +294,7 @@ void forget(Workstation& ws, MetarForm form) {
 
 }  // namespace
 
-void run_metar_coder(Workstation& ws, MetarForm form) {
+void run_metar_coder(Desk& ws, MetarForm form) {
   bool coded = false;
   try {
     coded = run(ws, form);
@@ -311,12 +311,12 @@ void run_metar_coder(Workstation& ws, MetarForm form) {
   open_observer_list(ws);
 }
 
-std::string speci_text(Workstation& ws) {
+std::string speci_text(Desk& ws) {
   FrmCode& p = ws.FrmCode;
   return trim(p.Text10.text) + join_groups(frame1_groups(p)) + "=";
 }
 
-void open_observer_list(Workstation& ws) {
+void open_observer_list(Desk& ws) {
   const std::string& kind = ws.FrmKashf.Combo5.text;
   bool coded = false;
   if (kind == kMetar || kind == kMetar30) coded = ws.METAR_coded == 1;

@@ -1,9 +1,9 @@
 #include "coders/metar.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
-void wire_metar(Workstation& ws) {
+void wire_metar(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Command4.on(Event::Enter, Command4_enter);
   k.Command4.on(Event::Click, Command4_click);

@@ -5,9 +5,9 @@
 #include "coders/synop_groups.h"
 #include "coders/synop_sections.h"
 #include "coders/syntax_gate.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -16,13 +16,13 @@ namespace {
 // A total cover of 9 (sky hidden) or 0 (clear) has no layers to code.
 bool sky_has_layers(std::string_view n) { return n != "9" && n != "0"; }
 
-void set_group(Workstation& ws, Control& box, const std::optional<std::string>& group) {
+void set_group(Desk& ws, Control& box, const std::optional<std::string>& group) {
   if (group) ws.set(box, *group);
 }
 
 // The height of the lowest reported cloud, kept in TEXTMIN for the run and for
 // the METAR coder.
-void lowest_cloud(Workstation& ws) {
+void lowest_cloud(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   auto lower = [](const std::string& candidate, const std::string& current) {
     return candidate != "0" && is_numeric(candidate) && is_numeric(current) && val(candidate) < val(current);
@@ -42,7 +42,7 @@ void lowest_cloud(Workstation& ws) {
 }
 
 // iRiXhVV
-void irix_group(Workstation& ws, const std::string& n_figure) {
+void irix_group(Desk& ws, const std::string& n_figure) {
   FrmKashf& k = ws.FrmKashf;
   const std::string vv = visibility_code(coder_number(k.Text4.text));
   const std::string& irix = k.Text48.text;
@@ -64,7 +64,7 @@ void irix_group(Workstation& ws, const std::string& n_figure) {
 }
 
 // The section 3 cloud groups 8NsChshs, with 8NhCLCMCH made between the cleanings.
-void cloud_groups(Workstation& ws) {
+void cloud_groups(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   Section3Clouds in;
@@ -84,7 +84,7 @@ void cloud_groups(Workstation& ws) {
 }
 
 // Sections 3 and 5 but the cloud groups. False when the run ends here.
-bool section3_and_5(Workstation& ws, const std::string& hour) {
+bool section3_and_5(Desk& ws, const std::string& hour) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   if (!k.Text28.text.empty()) set_group(ws, p.Text102, signed_tenths_group("9", k.Text28.text));
@@ -116,7 +116,7 @@ bool section3_and_5(Workstation& ws, const std::string& hour) {
   return true;
 }
 
-void clear_synop_frame(Workstation& ws) {
+void clear_synop_frame(Desk& ws) {
   FrmCode& p = ws.FrmCode;
   for (Control* c : Controls{&p.Text41, &p.Text42, &p.Text43, &p.Text44, &p.Text45, &p.Text46, &p.Text76, &p.Text77,
                              &p.Text78, &p.Text79, &p.Text80, &p.Text81, &p.Text82, &p.Text83, &p.Text84, &p.Text86,
@@ -126,7 +126,7 @@ void clear_synop_frame(Workstation& ws) {
   ws.set(p.Text103, "   ");
 }
 
-std::string archive_line(Workstation& ws, const std::string& upper_air) {
+std::string archive_line(Desk& ws, const std::string& upper_air) {
   FrmCode& p = ws.FrmCode;
   std::string line = synop_line_prefix(ws);
   for (Control* c : Controls{&p.Text76, &p.Text77, &p.Text78, &p.Text79, &p.Text80, &p.Text81, &p.Text82, &p.Text83,
@@ -146,14 +146,14 @@ std::string archive_line(Workstation& ws, const std::string& upper_air) {
   return line + "      " + p.Text7.text;
 }
 
-std::string golbad_line(Workstation& ws) {
+std::string golbad_line(Desk& ws) {
   FrmCode& p = ws.FrmCode;
   return ws.FrmOption.NUMCOD.text + mid(p.TXTYEARmi.text, 3, 2) + p.TXTMONTHMI.text + p.TXTDAYmi.text +
          p.Text75.text + "***" + p.Text34.text + "*******";
 }
 
 // The observer may be chosen once the report kind's coders have run.
-void enable_observer(Workstation& ws) {
+void enable_observer(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   const std::string& kind = k.Combo5.text;
   bool on = false;
@@ -176,7 +176,7 @@ std::string join_synop(const std::vector<std::string>& boxes, std::string_view q
   return text + "=";
 }
 
-void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_hour,
+void synop_date_step(Desk& ws, std::string_view station_kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
   // The hour of the clock when the date boxes were filled: the date they hold is
@@ -194,7 +194,7 @@ void synop_date_step(Workstation& ws, std::string_view station_kind, int clock_h
   ws.set(k.TXTYEARmi, d.year);
 }
 
-void synop_hour_and_dates(Workstation& ws) {
+void synop_hour_and_dates(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   ws.set(p.Text75, k.Text1.text);
@@ -206,7 +206,7 @@ void synop_hour_and_dates(Workstation& ws) {
   ws.set(p.TXTDAYsh, k.TXTDAYsh.text);
 }
 
-void synop_copies(Workstation& ws) {
+void synop_copies(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   ws.set(p.Text104, k.Txtmaxwind.text);
@@ -215,13 +215,13 @@ void synop_copies(Workstation& ws) {
   ws.set(p.TXT_QNT, k.TXT_QNT.text);
 }
 
-std::string synop_line_prefix(Workstation& ws) {
+std::string synop_line_prefix(Desk& ws) {
   FrmCode& p = ws.FrmCode;
   return "2" + ws.FrmOption.NUMCOD.text + mid(p.TXTYEARmi.text, 3, 2) + p.TXTMONTHMI.text + p.TXTDAYmi.text +
          p.Text75.text;
 }
 
-void set_archive_line(Workstation& ws, std::string line) {
+void set_archive_line(Desk& ws, std::string line) {
   ws.set(ws.FrmCode.TXTSCDATA, "");
   ws.set(ws.FrmCode.TXTSCDATA, std::move(line));
   if (ws.FrmCode.TXTTEDAD.text != "200") ws.error(std::string(kLineNot200));
@@ -231,7 +231,7 @@ namespace {
 
 // The entry box a group of the SYNOP body is made from, for the focus when the
 // group fails the final check.
-Control* synop_source(Workstation& ws, const std::string& group) {
+Control* synop_source(Desk& ws, const std::string& group) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   const std::pair<Control*, Control*> sources[] = {
@@ -244,7 +244,7 @@ Control* synop_source(Workstation& ws, const std::string& group) {
 }
 
 // The run of the coder up to the report text; false when it ended early.
-bool code_synop(Workstation& ws) {
+bool code_synop(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);
@@ -319,7 +319,7 @@ bool code_synop(Workstation& ws) {
 
 }  // namespace
 
-void forget_synop(Workstation& ws) {
+void forget_synop(Desk& ws) {
   // Confirmation waits again for a report that codes.
   ws.FrmKashf.ZAKHIREH.enabled = false;
   ws.SYNOP_coded = 0;
@@ -328,7 +328,7 @@ void forget_synop(Workstation& ws) {
   ws.set(ws.FrmKashf.txtSYN, "");
 }
 
-void run_synop(Workstation& ws) {
+void run_synop(Desk& ws) {
   bool coded = false;
   try {
     coded = code_synop(ws);
@@ -345,7 +345,7 @@ void run_synop(Workstation& ws) {
   enable_observer(ws);
 }
 
-void wire_synop(Workstation& ws) {
+void wire_synop(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   wire_synop_pointer(ws);
   k.Cmdsynop.on(Event::Click, run_synop);

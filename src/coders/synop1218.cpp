@@ -5,12 +5,12 @@
 #include "coders/synop.h"
 #include "coders/synop_groups.h"
 #include "coders/synop_sections.h"
-#include "core/record.h"
-#include "core/workstation.h"
+#include "screens/record.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
-void run_synop1218(Workstation& ws) {
+void run_synop1218(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);

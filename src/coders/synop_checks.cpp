@@ -3,7 +3,7 @@
 #include "coders/synop.h"
 
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -22,11 +22,11 @@ struct Row {
 // A total cover of 9 (sky hidden) or 0 (clear) has no layers to check.
 bool sky_has_layers(std::string_view n) { return n != "9" && n != "0"; }
 
-void Cmdsynop_enter(Workstation& ws) { synop_cloud_check(ws); }
+void Cmdsynop_enter(Desk& ws) { synop_cloud_check(ws); }
 
 // Over the button with the tendency filled: the coder's colours, and the
 // weather pictures asked for.
-void Cmdsynop_mouse_move(Workstation& ws) {
+void Cmdsynop_mouse_move(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text25.text.empty()) return;
   for (Control* b : Controls{&k.ZAKHIREH, &k.Command5, &k.Command4, &k.Command8, &k.Command1}) b->back_color = kOtherButton;
@@ -42,7 +42,7 @@ void Cmdsynop_mouse_move(Workstation& ws) {
 }
 
 // The observer list, refilled from the Station profile; blank names are left out.
-void Cmdsynop_mouse_up(Workstation& ws) {
+void Cmdsynop_mouse_up(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmOption& o = ws.FrmOption;
   k.Combo7.items.clear();
@@ -54,7 +54,7 @@ void Cmdsynop_mouse_up(Workstation& ws) {
 
 }  // namespace
 
-bool synop_cloud_check(Workstation& ws) {
+bool synop_cloud_check(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (!sky_has_layers(k.Text5.text)) return true;
   const bool high = k.Text22.text != "X";
@@ -96,7 +96,7 @@ bool synop_cloud_check(Workstation& ws) {
   return true;
 }
 
-void wire_synop_pointer(Workstation& ws) {
+void wire_synop_pointer(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Cmdsynop.on(Event::Enter, Cmdsynop_enter);
   k.Cmdsynop.on(Event::MouseMove, Cmdsynop_mouse_move);

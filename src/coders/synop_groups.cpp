@@ -3,7 +3,7 @@
 #include <array>
 
 #include "coders/coder_common.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
 
 namespace obsdesk {

@@ -3,11 +3,11 @@
 // minute before the hour.
 #include "coders/metar.h"
 #include "coders/metar_groups.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
-void speci_time_step(Workstation& ws) {
+void speci_time_step(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   // The time stands on four figures in the field as well.
@@ -18,8 +18,8 @@ void speci_time_step(Workstation& ws) {
   ws.set(p.Text10, speci_time_group(k.TXTDAYmi.text, k.txt1.text));
 }
 
-void Command8_enter(Workstation& ws) { metar_focus_checks(ws); }
+void Command8_enter(Desk& ws) { metar_focus_checks(ws); }
 
-void Command8_click(Workstation& ws) { run_metar_coder(ws, MetarForm::Speci); }
+void Command8_click(Desk& ws) { run_metar_coder(ws, MetarForm::Speci); }
 
 }  // namespace obsdesk

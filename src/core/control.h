@@ -16,10 +16,11 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 struct Screen;
 
-using Handler = std::function<void(Workstation&)>;
+// A rule bound to an event: it is given the desk, the engine with every screen.
+using Handler = std::function<void(Desk&)>;
 
 struct Control;
 // A list of controls of mixed kinds: for (Control* c : Controls{&Text1, &Combo5}).
@@ -41,7 +42,7 @@ enum class Event {
   Enter,       // the control got the focus
   Leave,       // the control lost the focus
   KeyEnter,    // the Enter key was pressed in it
-  KeyUp,       // a key was released in it (Workstation::key() tells which)
+  KeyUp,       // a key was released in it (Engine::key() tells which)
   Click,
   DblClick,
   MouseMove,   // the pointer passes over it
@@ -96,7 +97,7 @@ struct Control : ControlState {
   void reset_to_design() { static_cast<ControlState&>(*this) = design_; }
 
  private:
-  friend class Workstation;
+  friend class Engine;
   std::array<Handler, static_cast<std::size_t>(Event::Count)> handlers_;
   ControlState design_;
   bool in_change_ = false;  // guards a change handler against its own output
@@ -179,12 +180,12 @@ struct Screen {
   void snapshot_design();
   void reset_to_design();
 
-  // Shown modally: the caller waits for it to close (Workstation::show_modal).
+  // Shown modally: the caller waits for it to close (Engine::show_modal).
   bool modal() const { return static_cast<bool>(on_close_); }
 
  private:
   friend struct Control;
-  friend class Workstation;
+  friend class Engine;
   void add(Control* c);
   std::vector<Control*> list_;
   std::map<std::string, Control*, std::less<>> by_name_;

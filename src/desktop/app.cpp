@@ -11,8 +11,8 @@
 #include <memory>
 
 #include "bank/sqlite.h"
-#include "core/program.h"
-#include "core/workstation.h"
+#include "station/program.h"
+#include "station/workstation.h"
 #include "symbols/meanings.h"
 #include "symbols/station_model.h"
 #include "symbols/symbols.h"
@@ -64,7 +64,7 @@ bool Desktop::start(std::string* why) {
 }
 
 void install_bank_chooser(Binder& binder) {
-  Workstation& ws = binder.workstation();
+  Desk& ws = binder.workstation();
   binder.before_click(ws.FrmMain.cmdOpen, [&binder, &ws] {
     const QString start = QString::fromStdString(ws.Derive + ws.FrmMain.LabName.text + "/BANK");
     const QString name = QFileDialog::getOpenFileName(binder.window(ws.FrmMain), QString(), start,
@@ -76,7 +76,7 @@ void install_bank_chooser(Binder& binder) {
 }
 
 void install_colour_chooser(Binder& binder) {
-  Workstation& ws = binder.workstation();
+  Desk& ws = binder.workstation();
   binder.before_click(ws.FrmMain.LabColor, [&binder, &ws] {
     const long now = parse_colour(ws.FrmMain.TxtBackColor.text);
     const QColor start(static_cast<int>(now & 0xFF), static_cast<int>((now >> 8) & 0xFF),
@@ -90,7 +90,7 @@ void install_colour_chooser(Binder& binder) {
 }
 
 void install_station_model(Binder& binder) {
-  Workstation& ws = binder.workstation();
+  Desk& ws = binder.workstation();
   QWidget* form = binder.form(ws.FrmCode);
   QLabel* view = form ? form->findChild<QLabel*>(QStringLiteral("ui_station_model")) : nullptr;
   if (!view) return;
@@ -112,7 +112,7 @@ void install_station_model(Binder& binder) {
 }
 
 void install_hint_symbol(Binder& binder) {
-  Workstation& ws = binder.workstation();
+  Desk& ws = binder.workstation();
   QWidget* form = binder.form(ws.FrmTooltip);
   QLabel* view = form ? form->findChild<QLabel*>(QStringLiteral("ui_tip_symbol")) : nullptr;
   QLabel* meaning = form ? form->findChild<QLabel*>(QStringLiteral("ui_tip_meaning")) : nullptr;

@@ -14,6 +14,7 @@ class QApplication;
 
 namespace obsdesk {
 
+class Desk;
 class Workstation;
 
 // Right to left, the Persian font, and Persian words on Qt's own buttons (Yes,

@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 #include <set>
 
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "desktop/forms.h"
 #include "symbols/symbols.h"
 
@@ -122,7 +122,7 @@ struct Binder::Window {
   bool sized = false;
 };
 
-Binder::Binder(Workstation& ws, QObject* parent) : QObject(parent), ws_(ws) {}
+Binder::Binder(Desk& ws, QObject* parent) : QObject(parent), ws_(ws) {}
 
 Binder::~Binder() {
   for (auto& win : windows_)

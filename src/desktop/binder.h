@@ -40,13 +40,13 @@ class QEvent;
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 struct Screen;
 struct Control;
 
 class Binder : public QObject {
  public:
-  explicit Binder(Workstation& ws, QObject* parent = nullptr);
+  explicit Binder(Desk& ws, QObject* parent = nullptr);
   ~Binder() override;
 
   // Builds every screen's window: its registered Designer form, or a plain one.
@@ -70,7 +70,7 @@ class Binder : public QObject {
   QWidget* widget(const Control& c) const;
   // The control a bound widget stands for, nullptr for any other widget.
   Control* control_of(const QObject* w) const;
-  Workstation& workstation() { return ws_; }
+  Desk& workstation() { return ws_; }
   // The control the pointer last entered that answers it (a board's button), or
   // nullptr: the hint window draws that control's symbol.
   const Control* pointed() const { return pointed_; }
@@ -109,7 +109,7 @@ class Binder : public QObject {
   // ended only the message panel, until its message is read.
   bool showing(const Screen& s) const;
 
-  Workstation& ws_;
+  Desk& ws_;
   std::vector<std::unique_ptr<Window>> windows_;
   std::map<const Control*, std::unique_ptr<Bound>> bound_;
   std::map<const QObject*, Bound*> by_widget_;

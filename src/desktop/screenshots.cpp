@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include "cli/runner.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "desktop/app.h"
 #include "desktop/binder.h"
 #include "desktop/services.h"
@@ -63,7 +63,7 @@ int take_screenshots(const std::filesystem::path& bank, const std::filesystem::p
           if (!save(box.get(), out_dir / (prefix + "question.png"), err)) return 2;
           continue;
         }
-        Workstation* ws = runner.workstation();
+        Desk* ws = runner.workstation();
         if (ws == nullptr) throw ScriptError("snap before start");
         Screen* s = ws->screen(words[1]);
         if (s == nullptr) throw ScriptError("unknown screen " + words[1]);

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
 #include "physics/psychrometry.h"
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "physics/fault_math.h"
+#include "screens/shared_values.h"
 
 namespace obsdesk {
 
@@ -38,20 +39,6 @@ struct PressureInputs {
   double barograph = 0;  // the reading of Text41, the station pressure otherwise
 };
 
-// The routine's results, unrounded unless a step rounds them.
-struct PressureResults {
-  double TC = 0;        // barometer correction
-  double P = 0;         // station pressure
-  double E = 0;         // vapour pressure
-  double TV = 0;        // mean virtual temperature, K
-  double RHRAW = 0;     // relative humidity, 2 decimals
-  double TDRAW = 0;     // dew point, 2 decimals (1 after the inverse)
-  std::string QFFSTR;   // QFF as text
-  double QNHRAW = 0;
-  double QINRAW = 0;
-  std::string H850STR;  // height of the 850 hPa level as text
-  double TWETRAW = 0;   // wet bulb derived by the inverse, 1 decimal
-};
 
 // What a run reported, in the order it happened: words for the error panel, and
 // run-time fault descriptions for a message box.

@@ -3,8 +3,7 @@
 // the box and the panel group it stands for.
 #include <string>
 
-#include "core/seams.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 #include "pickers/pickers.h"
 
 namespace obsdesk {
@@ -14,28 +13,28 @@ namespace {
 constexpr std::string_view kBlankGroup = "     ";
 
 // Opens the present weather board for a selector.
-void open_feali(Workstation& ws, int select) {
+void open_feali(Desk& ws, int select) {
   ws.WeatherBoxSelect = select;
   ws.show(ws.FrmFeali);
 }
 
 }  // namespace
 
-void Image1_click(Workstation& ws) {
+void Image1_click(Desk& ws) {
   if (ws.FrmKashf.Image1.text.empty()) return open_feali(ws, 1);
   ws.set(ws.FrmKashf.Image1, "");
   ws.set(ws.FrmDisplayKashf.TXTWW4, "");
   rebuild_weather_group(ws);
 }
 
-void Image10_click(Workstation& ws) {
+void Image10_click(Desk& ws) {
   if (ws.FrmKashf.Image10.text.empty()) return open_feali(ws, 10);
   ws.set(ws.FrmKashf.Image10, "");
   ws.set(ws.FrmDisplayKashf.TXTWW1, "");
   ws.set(ws.FrmCode.Text4, "");
 }
 
-void Image8_click(Workstation& ws) {
+void Image8_click(Desk& ws) {
   if (ws.FrmKashf.Image8.text.empty()) return open_feali(ws, 8);
   ws.set(ws.FrmKashf.Image8, "");
   ws.set(ws.FrmDisplayKashf.TXTWW3, "");
@@ -43,13 +42,13 @@ void Image8_click(Workstation& ws) {
 }
 
 // Image4 brings back the second METAR weather place that Cancel put away.
-void Image4_click(Workstation& ws) {
+void Image4_click(Desk& ws) {
   ws.FrmKashf.Image4.visible = false;
   ws.FrmKashf.Image8.visible = true;
   open_feali(ws, 8);
 }
 
-void Image7_click(Workstation& ws) {
+void Image7_click(Desk& ws) {
   if (ws.FrmKashf.Image7.text.empty()) {
     ws.WeatherBoxSelect = 7;
     ws.show(ws.FrmGozashteh);
@@ -60,7 +59,7 @@ void Image7_click(Workstation& ws) {
   ws.set(ws.FrmCode.Text2, "");
 }
 
-void Image2_click(Workstation& ws) {
+void Image2_click(Desk& ws) {
   if (ws.FrmKashf.Image2.text.empty()) return ws.show(ws.Frmgozashteh1);
   ws.set(ws.FrmKashf.Image2, "");
   ws.set(ws.FrmDisplayKashf.TXTWW5, "");
@@ -68,7 +67,7 @@ void Image2_click(Workstation& ws) {
   rebuild_weather_group(ws);
 }
 
-void Image9_click(Workstation& ws) {
+void Image9_click(Desk& ws) {
   if (ws.FrmKashf.Image9.text.empty()) return open_w2_board(ws);
   ws.set(ws.FrmKashf.Image9, "");
   ws.set(ws.FrmDisplayKashf.TXTWW6, "");
@@ -76,7 +75,7 @@ void Image9_click(Workstation& ws) {
   rebuild_weather_group(ws);
 }
 
-void Image3_click(Workstation& ws) {
+void Image3_click(Desk& ws) {
   if (ws.FrmKashf.Image3.text.empty()) return open_ground_picker(ws);
   ws.set(ws.FrmKashf.Image3, "");
   ws.set(ws.FrmDisplayKashf.Text52, "");
@@ -88,7 +87,7 @@ void Image3_click(Workstation& ws) {
 // A double click on a weather picture offers the sky letters for its box instead
 // of a phenomenon: the click before it has opened (or emptied) the picture's own
 // board, which makes way.
-void sky_for_picture(Workstation& ws, int select, const char* tww) {
+void sky_for_picture(Desk& ws, int select, const char* tww) {
   ws.unload(ws.FrmFeali);
   for (Screen* board : {static_cast<Screen*>(&ws.FrmGozashteh), static_cast<Screen*>(&ws.Frmgozashteh1),
                         static_cast<Screen*>(&ws.FrmGozashteh2)})
@@ -98,7 +97,7 @@ void sky_for_picture(Workstation& ws, int select, const char* tww) {
   open_sky_board(ws, ws.FrmBCOBCOY);
 }
 
-void wire_entry_images(Workstation& ws) {
+void wire_entry_images(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Image1.on(Event::Click, Image1_click);
   k.Image10.on(Event::Click, Image10_click);
@@ -116,8 +115,8 @@ void wire_entry_images(Workstation& ws) {
   for (const SkyPicture& p : {SkyPicture{&k.Image1, 1, "1"}, SkyPicture{&k.Image2, 2, "2"},
                               SkyPicture{&k.Image9, 3, "3"}, SkyPicture{&k.Image10, 10, ""},
                               SkyPicture{&k.Image8, 8, ""}, SkyPicture{&k.Image7, 7, ""}})
-    p.image->on(Event::DblClick, [p](Workstation& w) { sky_for_picture(w, p.select, p.tww); });
-  k.Text48.on(Event::Click, [](Workstation& w) { open_irix_picker(w, false); });
+    p.image->on(Event::DblClick, [p](Desk& w) { sky_for_picture(w, p.select, p.tww); });
+  k.Text48.on(Event::Click, [](Desk& w) { open_irix_picker(w, false); });
 }
 
 }  // namespace obsdesk

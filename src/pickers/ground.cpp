@@ -2,15 +2,14 @@
 // ice (s0 to s9), for the groups 3EsnTgTg and 4E'sss of section 3.
 #include <string>
 
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
-#include "pickers/board_tables.h"
+#include "screens/desk.h"
+#include "screens/board_tables.h"
 #include "pickers/pickers.h"
 
 namespace obsdesk {
 
-void ground_click(Workstation& ws, int index) {
+void ground_click(Desk& ws, int index) {
   const GroundState& g = ground_state_table()[index];
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
@@ -40,23 +39,23 @@ void ground_click(Workstation& ws, int index) {
 }
 
 // A digit typed in the board's box picks the ground with snow of that figure.
-void FrmZamin_Text1_key_up(Workstation& ws) {
+void FrmZamin_Text1_key_up(Desk& ws) {
   const std::string ch = char_at(ws.FrmZamin.Text1.text, 1);
   if (!is_digit(ch)) return;
   ground_click(ws, 10 + (ch[0] - '0'));
 }
 
-void open_ground_picker(Workstation& ws) { ws.show(ws.FrmZamin); }
+void open_ground_picker(Desk& ws) { ws.show(ws.FrmZamin); }
 
-void wire_ground(Workstation& ws) {
+void wire_ground(Desk& ws) {
   FrmZamin& z = ws.FrmZamin;
   for (int i = 0; i < 20; ++i) {
-    z.buttons[i]->on(Event::Click, [i](Workstation& w) { ground_click(w, i); });
+    z.buttons[i]->on(Event::Click, [i](Desk& w) { ground_click(w, i); });
     const GroundState& g = ground_state_table()[i];
     bind_hint(*z.buttons[i], std::string(g.snow ? "E' CODE " : "E CODE ") + std::string(g.figure));
   }
   z.Text1.on(Event::KeyUp, FrmZamin_Text1_key_up);
-  z.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmZamin); });
+  z.Command1.on(Event::Click, [](Desk& w) { w.hide(w.FrmZamin); });
 }
 
 }  // namespace obsdesk

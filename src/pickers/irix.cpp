@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
-#include "pickers/board_tables.h"
+#include "screens/desk.h"
+#include "screens/board_tables.h"
 #include "pickers/pickers.h"
 
 namespace obsdesk {
@@ -33,7 +32,7 @@ int item_number(const Control& list) {
 
 // A typed figure chooses its list item. The same item as the last report's is
 // still a choice: the board is only hidden between reports and keeps its texts.
-void typed(Workstation& ws, Control& box, Control& list, std::string_view refusal, void (*chosen)(Workstation&)) {
+void typed(Desk& ws, Control& box, Control& list, std::string_view refusal, void (*chosen)(Desk&)) {
   if (box.text.empty()) return;
   const int n = figure(box.text, static_cast<int>(list.items.size()));
   if (n == 0) {
@@ -49,21 +48,21 @@ void typed(Workstation& ws, Control& box, Control& list, std::string_view refusa
 
 }  // namespace
 
-void TXTIR_change(Workstation& ws) {
+void TXTIR_change(Desk& ws) {
   typed(ws, ws.FrmIRIX.TXTIR, ws.FrmIRIX.Combo1, kIrRange, FrmIRIX_Combo1_change);
 }
 
-void TXTIX_change(Workstation& ws) {
+void TXTIX_change(Desk& ws) {
   typed(ws, ws.FrmIRIX.TXTIX, ws.FrmIRIX.Combo3, kIxRange, FrmIRIX_Combo3_change);
 }
 
-void FrmIRIX_Combo1_change(Workstation& ws) {
+void FrmIRIX_Combo1_change(Desk& ws) {
   const int n = item_number(ws.FrmIRIX.Combo1);
   if (n > 0) ws.set(ws.FrmIRIX.TXTIR, std::to_string(n));
 }
 
 // iX comes after iR; with both, IRIX of the entry screen is set and the board closes.
-void FrmIRIX_Combo3_change(Workstation& ws) {
+void FrmIRIX_Combo3_change(Desk& ws) {
   FrmIRIX& f = ws.FrmIRIX;
   const int n = item_number(f.Combo3);
   if (n == 0) return;
@@ -79,7 +78,7 @@ void FrmIRIX_Combo3_change(Workstation& ws) {
 
 // IRIX typed on the entry screen holds the same two figures the board gives: iR
 // 1 to 4, then iX 1 to 6. Any other character would reach the first SYNOP group.
-void Text48_change(Workstation& ws) {
+void Text48_change(Desk& ws) {
   TextBox& box = ws.FrmKashf.Text48;
   const std::string& t = box.text;
   const bool ir_bad = !t.empty() && (t[0] < '1' || t[0] > '4');
@@ -90,12 +89,12 @@ void Text48_change(Workstation& ws) {
   ws.focus(box);
 }
 
-void open_irix_picker(Workstation& ws, bool clear_ir) {
+void open_irix_picker(Desk& ws, bool clear_ir) {
   if (clear_ir) ws.set(ws.FrmIRIX.TXTIR, "");
   ws.show(ws.FrmIRIX);
 }
 
-void wire_irix(Workstation& ws) {
+void wire_irix(Desk& ws) {
   FrmIRIX& f = ws.FrmIRIX;
   f.TXTIR.on(Event::Change, TXTIR_change);
   f.TXTIX.on(Event::Change, TXTIX_change);
@@ -104,7 +103,7 @@ void wire_irix(Workstation& ws) {
   // A choice of the item already shown changes no text but is a choice all the same.
   f.Combo1.on(Event::Click, FrmIRIX_Combo1_change);
   f.Combo3.on(Event::Click, FrmIRIX_Combo3_change);
-  f.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmIRIX); });
+  f.Command1.on(Event::Click, [](Desk& w) { w.hide(w.FrmIRIX); });
   ws.FrmKashf.Text48.on(Event::Change, Text48_change);
 }
 

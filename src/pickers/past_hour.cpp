@@ -5,9 +5,9 @@
 #include <string>
 
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 #include "pickers/pickers.h"
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 
 namespace obsdesk {
 
@@ -17,7 +17,7 @@ constexpr int kPastHourBox = 7;  // MPW2 and Image7
 
 }  // namespace
 
-void FrmGozashteh_P_click(Workstation& ws, int ww) {
+void FrmGozashteh_P_click(Desk& ws, int ww) {
   if (ws.WeatherBoxSelect != kPastHourBox) return;
   const PastHourWeather& row = past_hour_table()[ww];
   if (row.act == PastHourAct::Nothing) return;
@@ -37,17 +37,17 @@ void FrmGozashteh_P_click(Workstation& ws, int ww) {
   ws.hide(ws.FrmTooltip);
 }
 
-void wire_past_hour(Workstation& ws) {
+void wire_past_hour(Desk& ws) {
   FrmGozashteh& g = ws.FrmGozashteh;
   for (int ww = 0; ww < 100; ++ww) {
     Button& b = *g.buttons.P[ww];
     const PastHourWeather& row = past_hour_table()[ww];
     if (row.act == PastHourAct::Nothing) continue;  // 78 has no handler at all
-    b.on(Event::Click, [ww](Workstation& w) { FrmGozashteh_P_click(w, ww); });
+    b.on(Event::Click, [ww](Desk& w) { FrmGozashteh_P_click(w, ww); });
     bind_hint(b, "METAR CODE " + std::string(row.box) + "   SYNOP CODE " +
                      std::string(present_weather_picture(ww).substr(2)));
   }
-  g.Command1.on(Event::Click, [](Workstation& w) { w.hide(w.FrmGozashteh); });
+  g.Command1.on(Event::Click, [](Desk& w) { w.hide(w.FrmGozashteh); });
 }
 
 }  // namespace obsdesk

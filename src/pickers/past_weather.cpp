@@ -3,8 +3,8 @@
 #include <string>
 
 #include "core/textnum.h"
-#include "core/workstation.h"
-#include "pickers/board_tables.h"
+#include "screens/desk.h"
+#include "screens/board_tables.h"
 #include "pickers/pickers.h"
 
 namespace obsdesk {
@@ -17,13 +17,13 @@ constexpr std::string_view kNoW1Yet = "     هواي گذشته قبلي انت�
 }  // namespace
 
 // 7WWw1W2
-void rebuild_weather_group(Workstation& ws) {
+void rebuild_weather_group(Desk& ws) {
   const FrmDisplayKashf& b = ws.FrmDisplayKashf;
   const std::string figures = trim(b.TXTWW4.text) + trim(b.TXTWW5.text) + trim(b.TXTWW6.text);
   ws.set(ws.FrmCode.Text85, figures.empty() ? std::string(5, ' ') : "7" + figures);
 }
 
-void w_click(Workstation& ws, int board, int n) {
+void w_click(Desk& ws, int board, int n) {
   const PastWeather& w = past_weather_table()[n];
   FrmKashf& k = ws.FrmKashf;
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
@@ -49,7 +49,7 @@ void w_click(Workstation& ws, int board, int n) {
 }
 
 // Image9 opens the W2 board only once W1 is chosen.
-void open_w2_board(Workstation& ws) {
+void open_w2_board(Desk& ws) {
   if (ws.FrmKashf.Image2.text.empty()) {
     ws.error(std::string(kNoW1Yet));
     return;
@@ -57,16 +57,16 @@ void open_w2_board(Workstation& ws) {
   ws.show(ws.FrmGozashteh2);
 }
 
-void wire_past_weather(Workstation& ws) {
+void wire_past_weather(Desk& ws) {
   PastWeatherBoard* boards[] = {&ws.Frmgozashteh1, &ws.FrmGozashteh2};
   for (int i = 0; i < 2; ++i) {
     const int board = i + 1;
     PastWeatherBoard& s = *boards[i];
     for (int n = 0; n < 10; ++n) {
-      s.button(n).on(Event::Click, [board, n](Workstation& w) { w_click(w, board, n); });
+      s.button(n).on(Event::Click, [board, n](Desk& w) { w_click(w, board, n); });
       bind_hint(s.button(n), "W" + std::to_string(board) + " CODE " + std::to_string(n));
     }
-    s.Command1.on(Event::Click, [&s](Workstation& w) { w.hide(s); });
+    s.Command1.on(Event::Click, [&s](Desk& w) { w.hide(s); });
   }
 }
 

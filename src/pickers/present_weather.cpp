@@ -4,11 +4,10 @@
 #include <algorithm>
 #include <string>
 
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 #include "pickers/pickers.h"
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 
 namespace obsdesk {
 
@@ -49,7 +48,7 @@ bool gate_holds(const FrmKashf& k, Gate gate) {
   return true;
 }
 
-bool passes(const Workstation& ws, Check check) {
+bool passes(const Desk& ws, Check check) {
   const FrmKashf& k = ws.FrmKashf;
   const double rh = val(k.Text31.text);
   const double ff = val(k.Text3.text);
@@ -75,19 +74,19 @@ bool passes(const Workstation& ws, Check check) {
 std::string two_figures(int ww) { return std::string(1, char('0' + ww / 10)) + char('0' + ww % 10); }
 
 // The board's work is done: it goes, and the entry screen has the focus again.
-void close_board(Workstation& ws) {
+void close_board(Desk& ws) {
   ws.hide(ws.FrmTooltip);
   ws.unload(ws.FrmFeali);
 }
 
 }  // namespace
 
-void FrmFeali_load(Workstation& ws) {
+void FrmFeali_load(Desk& ws) {
   const FrmKashf& k = ws.FrmKashf;
   ws.FrmFeali.Visibility = trim(k.TxtVM.text).empty() ? val(k.Text4.text) : val(k.TxtVM.text);
 }
 
-void P_click(Workstation& ws, int ww) {
+void P_click(Desk& ws, int ww) {
   FrmFeali& f = ws.FrmFeali;
   FrmKashf& k = ws.FrmKashf;
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
@@ -160,7 +159,7 @@ void P_click(Workstation& ws, int ww) {
   close_board(ws);
 }
 
-void CmbVC_click(Workstation& ws) {
+void CmbVC_click(Desk& ws) {
   FrmFeali& f = ws.FrmFeali;
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
@@ -189,7 +188,7 @@ void CmbVC_click(Workstation& ws) {
   ws.set(p.Text47, code);
 }
 
-void FrmFeali_Command1_click(Workstation& ws) {
+void FrmFeali_Command1_click(Desk& ws) {
   if (ws.WeatherBoxSelect == kRecentBox) {
     FrmKashf& k = ws.FrmKashf;
     k.Image8.visible = false;
@@ -202,30 +201,17 @@ void FrmFeali_Command1_click(Workstation& ws) {
 
 // The code chosen on the present weather board: the last one taken while its
 // picture still stands on the entry screen, else any code a picture shows.
-int present_weather_code(Workstation& ws) {
-  const FrmKashf& k = ws.FrmKashf;
-  const Control* images[] = {&k.Image1, &k.Image10, &k.Image8};
-  const int last = ws.FrmFeali.LastCode;
-  if (last >= 0)
-    for (const Control* i : images)
-      if (i->text == present_weather_picture(last)) return last;
-  for (const Control* i : images)
-    for (int ww = 0; ww < 100; ++ww)
-      if (i->text == present_weather_picture(ww)) return ww;
-  return -1;
-}
-
-void open_present_weather_picker(Workstation& ws) {
+void open_present_weather_picker(Desk& ws) {
   ws.WeatherBoxSelect = kMetarBox;
   ws.show(ws.FrmFeali);
 }
 
-void wire_present_weather(Workstation& ws) {
+void wire_present_weather(Desk& ws) {
   FrmFeali& f = ws.FrmFeali;
   f.on(ScreenEvent::Load, FrmFeali_load);
   for (int ww = 0; ww < 100; ++ww) {
     Button& b = *f.buttons.P[ww];
-    b.on(Event::Click, [ww](Workstation& w) { P_click(w, ww); });
+    b.on(Event::Click, [ww](Desk& w) { P_click(w, ww); });
     bind_hint(b, "METAR CODE " + std::string(present_weather_table()[ww].metar) + "   SYNOP CODE " + two_figures(ww));
   }
   f.CmbVC.on(Event::Click, CmbVC_click);

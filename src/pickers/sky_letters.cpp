@@ -3,10 +3,9 @@
 // sky; the selector and TWW tell which box the letter goes to.
 #include <string>
 
-#include "core/seams.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
-#include "pickers/board_tables.h"
+#include "screens/desk.h"
+#include "screens/board_tables.h"
 #include "pickers/pickers.h"
 
 namespace obsdesk {
@@ -22,7 +21,7 @@ const SkyLetter* find_letter(std::string_view button) {
 // The buttons follow the cloud amount. At selector 1 every button is opened
 // first; at 10 the amount only shuts, so a button shut at an earlier opening
 // stays shut.
-void follow_cloud_amount(Workstation& ws, SkyBoard& board) {
+void follow_cloud_amount(Desk& ws, SkyBoard& board) {
   const std::string n = trim(ws.FrmKashf.Text5.text);
   if (n.empty()) return;
   const double amount = n == "TR" ? 1 : val(n);
@@ -36,7 +35,7 @@ void follow_cloud_amount(Workstation& ws, SkyBoard& board) {
 
 }  // namespace
 
-void open_sky_board(Workstation& ws, SkyBoard& board, std::function<void(Workstation&)> on_close) {
+void open_sky_board(Desk& ws, SkyBoard& board, std::function<void(Desk&)> on_close) {
   if (&board == &ws.FrmBCO) {
     ws.set(ws.FrmDisplayKashf.TXTWW1, "");
     ws.set(ws.FrmCode.Text4, "");
@@ -51,7 +50,7 @@ void open_sky_board(Workstation& ws, SkyBoard& board, std::function<void(Worksta
     ws.show(board);
 }
 
-void sky_letter_click(Workstation& ws, SkyBoard& board, const std::string& letter) {
+void sky_letter_click(Desk& ws, SkyBoard& board, const std::string& letter) {
   const SkyLetter* s = find_letter(letter);
   if (s == nullptr) return;
   FrmKashf& k = ws.FrmKashf;
@@ -79,7 +78,7 @@ void sky_letter_click(Workstation& ws, SkyBoard& board, const std::string& lette
 }
 
 // A letter typed in the board's box acts as its button ("o" is the character 111).
-void sky_Text1_key_up(Workstation& ws, SkyBoard& board) {
+void sky_Text1_key_up(Desk& ws, SkyBoard& board) {
   const std::string ch = char_at(board.Text1.text, 1);
   if (ch != "b" && ch != "c" && ch != "o") return;
   const bool y_board = &board == &ws.FrmBCOY;
@@ -89,24 +88,24 @@ void sky_Text1_key_up(Workstation& ws, SkyBoard& board) {
 
 // The remarks step of a SYNOP kind: the two sky boards, then the present weather
 // board, each when the one before has closed.
-void open_remarks_pickers(Workstation& ws) {
+void open_remarks_pickers(Desk& ws) {
   ws.WeatherBoxSelect = 1;
   ws.set(ws.FrmKashf.TWW, "1");
-  open_sky_board(ws, ws.FrmBCOY, [](Workstation& w) {
-    open_sky_board(w, w.FrmBCO, [](Workstation& w2) { w2.show(w2.FrmFeali); });
+  open_sky_board(ws, ws.FrmBCOY, [](Desk& w) {
+    open_sky_board(w, w.FrmBCO, [](Desk& w2) { w2.show(w2.FrmFeali); });
   });
 }
 
-void wire_sky_letters(Workstation& ws) {
+void wire_sky_letters(Desk& ws) {
   SkyBoard* boards[] = {&ws.FrmBCO, &ws.FrmBCOY, &ws.FrmBCOBCOY};
   for (SkyBoard* board : boards) {
     for (auto& b : board->letters) {
       const std::string name = b->name;
-      b->on(Event::Click, [board, name](Workstation& w) { sky_letter_click(w, *board, name); });
+      b->on(Event::Click, [board, name](Desk& w) { sky_letter_click(w, *board, name); });
       bind_hint(*b, std::string(find_letter(name)->text));
     }
-    board->Text1.on(Event::KeyUp, [board](Workstation& w) { sky_Text1_key_up(w, *board); });
-    board->Command1.on(Event::Click, [board](Workstation& w) { w.hide(*board); });
+    board->Text1.on(Event::KeyUp, [board](Desk& w) { sky_Text1_key_up(w, *board); });
+    board->Command1.on(Event::Click, [board](Desk& w) { w.hide(*board); });
   }
 }
 

@@ -3,9 +3,10 @@
 #include <filesystem>
 
 #include "bank/bank.h"
-#include "core/catalogue/select_station.h"
+#include "screens/bank_tables.h"
+#include "settings/select_station.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "screens/desk.h"
 
 namespace obsdesk {
 
@@ -34,7 +35,7 @@ void write_changed(FrmOption& o) {
 // The row added by "New" or opened by "Edit" goes to the table, as the data
 // control writes a changed row when it is left. A failure of the table is told
 // in a message box and the row stays as it was.
-bool commit(Workstation& ws) {
+bool commit(Desk& ws) {
   FrmOption& o = ws.FrmOption;
   if (!o.adding && !o.editing) return true;
   Recordset& rs = o.Station.rs;
@@ -54,7 +55,7 @@ bool commit(Workstation& ws) {
 
 // Runs a command with the menu closed; a failure of the table goes to a message box.
 template <typename F>
-void command(Workstation& ws, F&& f) {
+void command(Desk& ws, F&& f) {
   FrmOption& o = ws.FrmOption;
   o.Frame4.visible = false;
   o.Text21.visible = false;
@@ -65,7 +66,7 @@ void command(Workstation& ws, F&& f) {
   }
 }
 
-void FrmOption_load(Workstation& ws) {
+void FrmOption_load(Desk& ws) {
   FrmOption& o = ws.FrmOption;
   lock_boxes(o, true);
   enable_commands(o, true);
@@ -74,8 +75,8 @@ void FrmOption_load(Workstation& ws) {
   o.OptPsang.value = o.txtPsang.text == "1";
 }
 
-void nnew_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void nnew_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     if (!commit(w)) return;
     o.Station.add_new(w);
     o.adding = true;
@@ -86,8 +87,8 @@ void nnew_click(Workstation& ws) {
   });
 }
 
-void savee_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void savee_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     commit(w);
     o.Station.move_last(w);
     enable_commands(o, true);
@@ -95,8 +96,8 @@ void savee_click(Workstation& ws) {
   });
 }
 
-void EDITT_click(Workstation& ws) {
-  command(ws, [](Workstation&, FrmOption& o) {
+void EDITT_click(Desk& ws) {
+  command(ws, [](Desk&, FrmOption& o) {
     if (o.Station.rs.eof() || o.Station.rs.bof()) return;  // no row to open
     o.editing = true;
     lock_boxes(o, false);
@@ -106,7 +107,7 @@ void EDITT_click(Workstation& ws) {
 // A station stored with a four-letter code that has no folder in the bank yet
 // gets its tree, and the bank path of the ID row points at its Kashf.mdb, so that
 // a station set up here saves its first report without hands on the folders.
-void give_new_station_its_bank(Workstation& ws) {
+void give_new_station_its_bank(Desk& ws) {
   const std::string code = ws.FrmOption.TXTCOD.text;
   if (code.size() != 4) return;
   for (char c : code)
@@ -128,8 +129,8 @@ void give_new_station_its_bank(Workstation& ws) {
 // the entry screen never offers a blank line; the program then ends, and the
 // profile comes into force at the next start. The message panel tells the
 // observer so, and stays on the screen as the program ends.
-void UPDATE_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void UPDATE_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     w.error(kRestartToApply);
     for (Control* box : Controls{&o.Text5, &o.Text6, &o.Text7, &o.Text8, &o.Text9, &o.Text10, &o.Text11, &o.Text12})
       if (box->text.empty()) w.set(*box, kDutyObserver);
@@ -141,23 +142,23 @@ void UPDATE_click(Workstation& ws) {
   });
 }
 
-void firstt_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void firstt_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     commit(w);
     o.Station.move_first(w);
   });
 }
 
-void LASTt_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void LASTt_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     commit(w);
     o.Station.move_last(w);
   });
 }
 
 // One row on or back; past the end the place kept before the move comes back.
-void step(Workstation& ws, bool forward) {
-  command(ws, [forward](Workstation& w, FrmOption& o) {
+void step(Desk& ws, bool forward) {
+  command(ws, [forward](Desk& w, FrmOption& o) {
     commit(w);
     Recordset& rs = o.Station.rs;
     const bool standing = !rs.eof() && !rs.bof();
@@ -176,10 +177,10 @@ void step(Workstation& ws, bool forward) {
 
 // The name chosen in the station picker is looked for anywhere in Sname; with
 // no row found the place stays as it was.
-void search_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption&) {
+void search_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption&) {
     commit(w);
-    select_station(w, "", [](Workstation& w2, const std::string& name) {
+    select_station(w, "", [](Desk& w2, const std::string& name) {
       if (name.empty()) return;
       try {
         Recordset& rs = w2.FrmOption.Station.rs;
@@ -194,8 +195,8 @@ void search_click(Workstation& ws) {
 
 // The screen closes (it stays loaded: every rule reads the profile from it) and
 // the start screen, active again, reads the station number anew.
-void Closee_click(Workstation& ws) {
-  command(ws, [](Workstation& w, FrmOption& o) {
+void Closee_click(Desk& ws) {
+  command(ws, [](Desk& w, FrmOption& o) {
     commit(w);
     lock_boxes(o, true);
     if (w.FrmMain.ID.rs.is_open()) w.FrmMain.ID.refresh(w);
@@ -205,40 +206,40 @@ void Closee_click(Workstation& ws) {
 
 }  // namespace
 
-void wire_station_settings(Workstation& ws) {
+void wire_station_settings(Desk& ws) {
   FrmOption& o = ws.FrmOption;
   o.on(ScreenEvent::Load, FrmOption_load);
-  o.Label45.on(Event::Click, [](Workstation& w) { w.FrmOption.Frame4.visible = !w.FrmOption.Frame4.visible; });
+  o.Label45.on(Event::Click, [](Desk& w) { w.FrmOption.Frame4.visible = !w.FrmOption.Frame4.visible; });
   o.nnew.on(Event::Click, nnew_click);
   o.savee.on(Event::Click, savee_click);
   o.EDITT.on(Event::Click, EDITT_click);
   o.UPDATE.on(Event::Click, UPDATE_click);
   o.firstt.on(Event::Click, firstt_click);
   o.LASTt.on(Event::Click, LASTt_click);
-  o.nextt.on(Event::Click, [](Workstation& w) { step(w, true); });
-  o.back.on(Event::Click, [](Workstation& w) { step(w, false); });
+  o.nextt.on(Event::Click, [](Desk& w) { step(w, true); });
+  o.back.on(Event::Click, [](Desk& w) { step(w, false); });
   o.search.on(Event::Click, search_click);
   o.Closee.on(Event::Click, Closee_click);
 
   // The row number shows on a double click on the radiation factor.
-  o.txttabesh.on(Event::DblClick, [](Workstation& w) { w.FrmOption.Text21.visible = true; });
+  o.txttabesh.on(Event::DblClick, [](Desk& w) { w.FrmOption.Text21.visible = true; });
 
   // The barometer pair: one option writes "1" to its box and "0" to the other.
-  o.OptPnegar.on(Event::Click, [](Workstation& w) {
+  o.OptPnegar.on(Event::Click, [](Desk& w) {
     w.set(w.FrmOption.txtPnegar, "1");
     w.set(w.FrmOption.txtPsang, "0");
   });
-  o.OptPsang.on(Event::Click, [](Workstation& w) {
+  o.OptPsang.on(Event::Click, [](Desk& w) {
     w.set(w.FrmOption.txtPsang, "1");
     w.set(w.FrmOption.txtPnegar, "0");
   });
-  o.txtPnegar.on(Event::Change, [](Workstation& w) { w.FrmOption.OptPnegar.value = w.FrmOption.txtPnegar.text == "1"; });
-  o.txtPsang.on(Event::Change, [](Workstation& w) { w.FrmOption.OptPsang.value = w.FrmOption.txtPsang.text == "1"; });
+  o.txtPnegar.on(Event::Change, [](Desk& w) { w.FrmOption.OptPnegar.value = w.FrmOption.txtPnegar.text == "1"; });
+  o.txtPsang.on(Event::Change, [](Desk& w) { w.FrmOption.OptPsang.value = w.FrmOption.txtPsang.text == "1"; });
 
   const std::vector<Control*> walk = o.enter_walk();
   for (std::size_t i = 0; i + 1 < walk.size(); ++i) {
     Control* next = walk[i + 1];
-    walk[i]->on(Event::KeyEnter, [next](Workstation& w) { w.focus(*next); });
+    walk[i]->on(Event::KeyEnter, [next](Desk& w) { w.focus(*next); });
   }
 }
 

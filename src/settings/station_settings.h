@@ -5,13 +5,13 @@
 
 namespace obsdesk {
 
-class Workstation;
+class Desk;
 
 // The observer name written into every empty observer box by "UpDate".
 inline constexpr const char* kDutyObserver = "ديدبان كشيك";
 // The words of "UpDate": the profile comes into force at the next start.
 inline constexpr const char* kRestartToApply = " تغييرات ثبت شد لطفا برنامه را مجددا اجرا نمائيد";
 
-void wire_station_settings(Workstation& ws);
+void wire_station_settings(Desk& ws);
 
 }  // namespace obsdesk

@@ -5,8 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -36,7 +37,7 @@ std::int64_t row_count(const Station& s) {
 TEST(Browser, MovesStopAtTheEndsWithTheirMessage) {
   {
     Station s;  // an empty table: every move is told
-    Workstation& ws = s.open_browser();
+    Desk& ws = s.open_browser();
     FrmDisplayKashf& b = ws.FrmDisplayKashf;
     ws.take_messages();
     for (Control* c : Controls{&b.nextt, &b.back, &b.last}) {
@@ -47,7 +48,7 @@ TEST(Browser, MovesStopAtTheEndsWithTheirMessage) {
   }
   Station s;
   add_rows(s, {{"2403200000", "SYNOP    ", "00"}, {"2403200300", "SYNOP    ", "03"}, {"2403200600", "SYNOP    ", "06"}});
-  Workstation& ws = s.open_browser();
+  Desk& ws = s.open_browser();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.take_messages();
   struct Step {
@@ -73,7 +74,7 @@ TEST(Browser, MovesStopAtTheEndsWithTheirMessage) {
 TEST(Browser, SearchFindsTheKeyAnywhereOrStays) {
   Station s;
   add_rows(s, {{"2412310600", "SYNOP    ", "06"}, {"2501050600", "SYNOP    ", "06"}, {"2501051200", "SYNOP    ", "12"}});
-  Workstation& ws = s.open_browser();
+  Desk& ws = s.open_browser();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.take_messages();
   struct Case {
@@ -102,7 +103,7 @@ TEST(Browser, SearchFindsTheKeyAnywhereOrStays) {
 TEST(Browser, DeleteAsksAndTheRowStaysShownUntilTheNextMove) {
   Station s;
   add_rows(s, {{"2403200000", "SYNOP    ", "00"}, {"2403200300", "SYNOP    ", "03"}});
-  Workstation& ws = s.open_browser();
+  Desk& ws = s.open_browser();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   s.asker.queue(false);
   ws.click(b.Command1);
@@ -123,7 +124,7 @@ TEST(Browser, DeleteAsksAndTheRowStaysShownUntilTheNextMove) {
 TEST(Browser, NewReportRestoresThePastHoursAndOpensTheEntryScreen) {
   Station s;
   add_rows(s, {{"2403200300", "SYNOP    ", "03"}});
-  Workstation& ws = s.open_browser();
+  Desk& ws = s.open_browser();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   FrmMain& m = ws.FrmMain;
   ws.set(m.txt06TB, "12.5");
@@ -148,7 +149,7 @@ TEST(Browser, NewReportRestoresThePastHoursAndOpensTheEntryScreen) {
 
 TEST(Browser, TheDisplayFollowsTheKindTheHourAndTheCloud) {
   Station s;
-  Workstation& ws = s.open_browser();
+  Desk& ws = s.open_browser();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   struct Kind {
     std::string_view kind;

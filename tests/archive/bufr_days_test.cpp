@@ -11,9 +11,9 @@
 #include "bank/bank.h"
 #include "cli/runner.h"
 #include "coders/bufr_check.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -48,7 +48,7 @@ DayRun run_day(const std::string& scenario) {
       EXPECT_TRUE(runner.execute(words, &failure)) << scenario << ":" << number << " " << failure;
       continue;
     }
-    Workstation& ws = *runner.workstation();
+    Desk& ws = *runner.workstation();
     const std::string kind = ws.FrmDisplayKashf.TXTSEL.text;
     const int hour = int_val(trim(ws.FrmDisplayKashf.Text1.text));
     const std::string text = trim(ws.FrmDisplayKashf.txtSYN.text);
@@ -78,7 +78,7 @@ DayRun run_day(const std::string& scenario) {
     EXPECT_EQ(whole.substr(whole.size() - std::min(whole.size(), after.size())), after) << day;
   }
   // The observer reads the latest message back in words from the browser.
-  Workstation& ws = *runner.workstation();
+  Desk& ws = *runner.workstation();
   if (run.synops > 0) {
     ws.show(ws.FrmDisplayKashf);
     ws.click(ws.FrmDisplayKashf.cmdBUFR);

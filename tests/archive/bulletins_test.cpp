@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "screens/record.h"
 
 namespace obsdesk {
 namespace {

@@ -6,8 +6,8 @@
 
 #include <fstream>
 
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "screens/handoffs.h"
 #include "core/textnum.h"
 #include "support/test_support.h"
 
@@ -23,8 +23,8 @@ void write_file(const Station& s, const char* name, const std::string& text) {
   std::ofstream(s.root() / "VARDOK" / name, std::ios::binary) << to_cp1256(text);
 }
 
-Workstation& after_save(Station& s, std::string_view kind) {
-  Workstation& ws = s.open_browser();
+Desk& after_save(Station& s, std::string_view kind) {
+  Desk& ws = s.open_browser();
   ws.FrmDisplayKashf.TXTSEL.text = std::string(kind);
   s.clipboard.set_text("pasted before");
   open_copy_out(ws);
@@ -41,7 +41,7 @@ TEST(CopyOut, TheButtonsOfEachKind) {
   };
   for (const auto& c : table) {
     Station s;
-    Workstation& ws = after_save(s, c.kind);
+    Desk& ws = after_save(s, c.kind);
     FrmPol& p = ws.FrmPol;
     const std::string kind(c.kind);
     EXPECT_EQ(ws.active_screen(), &p) << kind;
@@ -58,7 +58,7 @@ TEST(CopyOut, TheButtonsOfEachKind) {
 // the clipboard keeps what it had; "Back" empties it.
 TEST(CopyOut, EachButtonPutsItsBulletinOnTheClipboard) {
   Station s;
-  Workstation& ws = after_save(s, kSynMet);
+  Desk& ws = after_save(s, kSynMet);
   FrmPol& p = ws.FrmPol;
   write_file(s, "METAR.dat", kMetarBulletin);
   ws.take_messages();

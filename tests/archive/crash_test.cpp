@@ -13,8 +13,9 @@
 
 #include "archive/report_fixture.h"
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/program.h"
+#include "station/program.h"
 
 namespace obsdesk {
 namespace {
@@ -81,8 +82,8 @@ test::Obs january() {
   return o;
 }
 
-struct Desk {
-  explicit Desk(const fs::path& root) : ws(root, Services{asker, clock, clipboard}) {
+struct Rig {
+  explicit Rig(const fs::path& root) : ws(root, Services{asker, clock, clipboard}) {
     start_program(ws);
     ws.click(ws.FrmMain.Command2);
   }
@@ -92,7 +93,7 @@ struct Desk {
   Workstation ws;
 };
 
-void save(Workstation& ws, const test::Obs& o) {
+void save(Desk& ws, const test::Obs& o) {
   test::new_report(ws, o);
   test::confirm(ws);
   ws.click(ws.FrmDisplayKashf.save);
@@ -105,7 +106,7 @@ class SaveFaults : public ::testing::Test {
     template_ = dir_.path() / "template";
     create_bank(template_);
     {
-      Desk d(template_);
+      Rig d(template_);
       test::Obs december;
       december.year = "2024";
       december.month = "12";
@@ -116,7 +117,7 @@ class SaveFaults : public ::testing::Test {
     never_began_ = files_of(template_);
     // The save that runs through, counting its calls.
     const fs::path root = fresh("whole");
-    Desk d(root);
+    Rig d(root);
     StopAt count(StopAt::Act::Count, 0, false);
     d.ws.file_seam = &count;
     test::new_report(d.ws, january());
@@ -153,7 +154,7 @@ TEST_F(SaveFaults, AKillBeforeAnyCallLeavesTheSaveWholeOrNeverBegun) {
     ASSERT_GE(child, 0);
     if (child == 0) {
       StopAt kill(StopAt::Act::Kill, n, false);
-      Desk d(root);
+      Rig d(root);
       d.ws.file_seam = &kill;
       save(d.ws, january());
       ::_exit(7);  // not reached: the kill comes first
@@ -162,7 +163,7 @@ TEST_F(SaveFaults, AKillBeforeAnyCallLeavesTheSaveWholeOrNeverBegun) {
     ::waitpid(child, &status, 0);
     ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "the child was not stopped";
 
-    Desk again(root);  // the restart finishes or takes back what the kill left
+    Rig again(root);  // the restart finishes or takes back what the kill left
     for (const std::string& m : again.ws.take_messages()) EXPECT_EQ(m.find("box: A "), 0u) << m;
     const int rows = rows_of(root);
     ASSERT_TRUE(rows == 1 || rows == 2);
@@ -184,7 +185,7 @@ TEST_F(SaveFaults, AFullDiskAtAnyWriteLeavesNothingHalfWritten) {
   for (int n = 1; n <= writes_; ++n) {
     SCOPED_TRACE("disk full at write " + std::to_string(n));
     const fs::path root = fresh("full");
-    Desk d(root);
+    Rig d(root);
     StopAt full(StopAt::Act::Fail, n, true);
     d.ws.file_seam = &full;
     test::new_report(d.ws, january());

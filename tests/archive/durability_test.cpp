@@ -14,8 +14,9 @@
 
 #include "archive/report_fixture.h"
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/program.h"
+#include "station/program.h"
 #include "core/textnum.h"
 
 namespace obsdesk {

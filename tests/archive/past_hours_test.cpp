@@ -34,8 +34,8 @@ std::string past(const Station& s, const std::string& column) {
   return st.step() ? st.text(0) : "<no row>";
 }
 
-Workstation& open_editor(Station& s) {
-  Workstation& ws = s.start();
+Desk& open_editor(Station& s) {
+  Desk& ws = s.start();
   ws.click(ws.FrmMain.Command4);
   ws.take_messages();
   return ws;
@@ -71,7 +71,7 @@ TEST(PastHours, ABadValueIsToldByFamilyAndTypedAgain) {
                {"Text3", false, kData},       {"Text12", false, kRain},     {"Text20", false, kPressure}};
   for (const auto& c : table) {
     Station s;
-    Workstation& ws = open_editor(s);
+    Desk& ws = open_editor(s);
     Control& box = s.at(std::string("FrmWP.") + c.box);
     if (c.typed) {
       ws.type(box, "1-");
@@ -88,7 +88,7 @@ TEST(PastHours, ABadValueIsToldByFamilyAndTypedAgain) {
 
 TEST(PastHours, EnterWalksTheBoxesToSaveAndTheHourToTheFirst) {
   Station s;
-  Workstation& ws = open_editor(s);
+  Desk& ws = open_editor(s);
   FrmWP& p = ws.FrmWP;
   ws.focus_now(p.Text1);
   for (int i = 2; i <= 24; ++i) {
@@ -107,7 +107,7 @@ TEST(PastHours, SaveExitWritesTheRowForTheNextReport) {
   s.start();
   set_past(s, "T00", "11.5");
   set_past(s, "QFE06B", "880.1");
-  Workstation& ws = *s.ws;
+  Desk& ws = *s.ws;
   ws.click(ws.FrmMain.Command4);
   FrmWP& p = ws.FrmWP;
   EXPECT_EQ(ws.active_screen(), &p);

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "archive/text_archive.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk::test {
@@ -21,7 +21,7 @@ struct Obs {
 
 // A new report opened from the browser and filled as the entry rules and the
 // coders would leave it.
-inline void new_report(Workstation& ws, const Obs& o) {
+inline void new_report(Desk& ws, const Obs& o) {
   ws.click(ws.FrmDisplayKashf.newW);
   FrmKashf& k = ws.FrmKashf;
   FrmCode& c = ws.FrmCode;
@@ -79,13 +79,13 @@ inline void new_report(Workstation& ws, const Obs& o) {
   ws.take_messages();
 }
 
-inline Workstation& enter(Station& s, const Obs& o) {
-  Workstation& ws = s.open_browser();
+inline Desk& enter(Station& s, const Obs& o) {
+  Desk& ws = s.open_browser();
   new_report(ws, o);
   return ws;
 }
 
-inline void confirm(Workstation& ws) {
+inline void confirm(Desk& ws) {
   ws.FrmKashf.ZAKHIREH.enabled = true;  // the coders' flags open it
   ws.click(ws.FrmKashf.ZAKHIREH);
 }

@@ -44,14 +44,14 @@ std::string kashf_value(const Station& s, const std::string& what) {
   return st.step() ? st.text(0) : "<no row>";
 }
 
-std::string first_message(Workstation& ws) {
+std::string first_message(Desk& ws) {
   const auto msgs = ws.take_messages();
   return msgs.size() == 1 ? msgs[0] : "<" + std::to_string(msgs.size()) + " messages>";
 }
 
 TEST(Save, ASynopRollsThePastHoursAndKeepsTheRow) {
   Station s;
-  Workstation& ws = enter(s, {});
+  Desk& ws = enter(s, {});
   const std::string sline = ws.FrmCode.TXTSCDATA.text;
   ws.SYNOP_coded = 1;
   ws.METAR_coded = 1;
@@ -100,7 +100,7 @@ TEST(Save, ASynMetOffTheMainHoursWritesTheMetarBulletinOnly) {
   Obs o;
   o.kind = std::string(kSynMet);
   o.hour = "07";
-  Workstation& ws = enter(s, o);
+  Desk& ws = enter(s, o);
   confirm(ws);
   ws.click(ws.FrmDisplayKashf.save);
   EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
@@ -138,7 +138,7 @@ TEST(Save, DatesPastTheMonthEndAreRepairedFirst) {
   o.year = "2023";
   o.month = "02";
   o.day = "29";
-  Workstation& ws = enter(s, o);
+  Desk& ws = enter(s, o);
   confirm(ws);
   EXPECT_TRUE(fs::exists(scdata_dir(s) / "S7542303.dat"));
   EXPECT_EQ(ws.FrmDisplayKashf.TXTYYMMDDTT.text, "23030106  ");
@@ -147,7 +147,7 @@ TEST(Save, DatesPastTheMonthEndAreRepairedFirst) {
 
 TEST(Save, AMissingFolderStopsTheConfirmationAndNothingIsLost) {
   Station s;
-  Workstation& ws = enter(s, {});
+  Desk& ws = enter(s, {});
   fs::rename(scdata_dir(s), bank_dir(s) / "TEXT" / "ASIDE");
   confirm(ws);
   const std::string msg = first_message(ws);
@@ -172,7 +172,7 @@ TEST(Save, AMissingFolderStopsTheConfirmationAndNothingIsLost) {
 // with each line once.
 TEST(Save, AFaultAtSaveTakesTheSaveBackAndASecondSaveGoesThrough) {
   Station s;
-  Workstation& ws = enter(s, {});
+  Desk& ws = enter(s, {});
   confirm(ws);
   const auto confirmed = lines_in(scdata_dir(s));
   fs::remove_all(kashf_dir(s));
@@ -208,7 +208,7 @@ TEST(Save, AJanuaryMorningWithoutLastMonthsFilesSavesWhole) {
   o.year = "2025";
   o.month = "01";
   o.day = "15";
-  Workstation& ws = enter(s, o);
+  Desk& ws = enter(s, o);
   confirm(ws);
   ws.click(ws.FrmDisplayKashf.save);
   EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/seams.h"
+#include "screens/handoffs.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -18,8 +18,8 @@ struct Returned {
   std::string text;
 };
 
-void open_find(Workstation& ws, Returned& out) {
-  open_find_dialog(ws, [&out](Workstation&, const std::string& t) {
+void open_find(Desk& ws, Returned& out) {
+  open_find_dialog(ws, [&out](Desk&, const std::string& t) {
     out.called = true;
     out.text = t;
   });
@@ -32,7 +32,7 @@ std::vector<std::string> boxes(FrmFind& f) {
 
 TEST(Search, OpensOnTodayInBothCalendars) {
   Station s({2024, 3, 20, 5, 40, 0});
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   Returned r;
   open_find(ws, r);
   FrmFind& f = ws.FrmFind;
@@ -68,7 +68,7 @@ TEST(Search, EachDatePartFillsTheOtherCalendarAndTheSearchText) {
       {"TXTDAYmi", "40", {"20x5", "JAN", "40", "1403", "دي", "", "Wednesday", "250101"}, true},
   };
   Station s({2024, 3, 20, 5, 40, 0});
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   Returned r;
   open_find(ws, r);
   FrmFind& f = ws.FrmFind;
@@ -83,7 +83,7 @@ TEST(Search, EachDatePartFillsTheOtherCalendarAndTheSearchText) {
 
 TEST(Search, FindReturnsTheTextAndAnyOtherCloseReturnsNothing) {
   Station s({2024, 3, 20, 5, 40, 0});
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   Returned found;
   open_find(ws, found);
   ws.type(ws.FrmFind.txttime, "12");

@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "support/test_support.h"
 
 namespace obsdesk {

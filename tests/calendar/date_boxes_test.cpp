@@ -45,7 +45,7 @@ TEST(DateBoxes, AGregorianKeyFillsThePersianGroup) {
   };
   for (const auto& c : table) {
     test::Station s;
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     FrmKashf& k = ws.FrmKashf;
     ws.calendar = CalendarState{};
     put(k.TXTYEARmi, k.TXTMONTHMI, k.TXTDAYmi, c.in);
@@ -71,7 +71,7 @@ TEST(DateBoxes, APersianKeyFillsTheGregorianGroup) {
   };
   for (const auto& c : table) {
     test::Station s;
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     FrmKashf& k = ws.FrmKashf;
     ws.calendar = CalendarState{};
     put(k.TXTYEARsh, k.TXTMONTHSH, k.TXTDAYsh, c.in);
@@ -84,7 +84,7 @@ TEST(DateBoxes, APersianKeyFillsTheGregorianGroup) {
 
 TEST(DateBoxes, LeavingGivesOneFigureItsLeadingZero) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   TextBox& d = ws.FrmKashf.TXTDAYsh;
   for (const auto& [in, out] : {std::pair<const char*, const char*>{"5", "05"}, {"12", "12"}, {"", ""}}) {
     d.text = in;
@@ -96,7 +96,7 @@ TEST(DateBoxes, LeavingGivesOneFigureItsLeadingZero) {
 // Typed on the entry screen, the boxes' own events carry the rules.
 TEST(DateBoxes, TypingInTheBoxesConvertsAndLeavingPads) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   ws.set_text(k.TXTYEARmi, "2024");
   ws.set_text(k.TXTMONTHMI, "03");

@@ -6,16 +6,16 @@
 #include <string>
 #include <vector>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
 namespace {
 
 // The entry screen at an hour with the wind and the visibility typed.
-Workstation& at_cloud(test::Station& s, std::string_view kind = kSynop, const char* hour = "09",
+Desk& at_cloud(test::Station& s, std::string_view kind = kSynop, const char* hour = "09",
                       bool twelve_hours = false) {
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   if (twelve_hours) ws.FrmOption.Combo1.text = std::string(kStation12);
   k.Text48.text = "12";
@@ -30,7 +30,7 @@ Workstation& at_cloud(test::Station& s, std::string_view kind = kSynop, const ch
   return ws;
 }
 
-std::string last(Workstation& ws) {
+std::string last(Desk& ws) {
   const auto m = ws.take_messages();
   return m.empty() ? "" : m.back();
 }
@@ -50,7 +50,7 @@ TEST(Cloud, TotalCloudShapesTheLayers) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_cloud(s);
+    Desk& ws = at_cloud(s);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text5, c.typed);
     EXPECT_EQ(k.Text5.text, c.kept) << c.typed;
@@ -104,7 +104,7 @@ TEST(Cloud, BoxesAgainstTheLayersBefore) {
       {{{"Text5", "TR"}, {"Text6", "TR"}}, "Combo1", "CB     3", "CB     3", ""},
   };
   // An empty text is put in place without a rule; a list is chosen from.
-  auto put = [](Workstation& ws, const char* box, const char* text) {
+  auto put = [](Desk& ws, const char* box, const char* text) {
     Control& c = *ws.control(box);
     if (*text == '\0') {
       c.text = "";
@@ -116,7 +116,7 @@ TEST(Cloud, BoxesAgainstTheLayersBefore) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_cloud(s);
+    Desk& ws = at_cloud(s);
     for (const Step& b : c.before) put(ws, b.box, b.text);
     ws.take_messages();
     put(ws, c.box, c.typed);
@@ -145,7 +145,7 @@ TEST(Cloud, HeightRangesByLayer) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_cloud(s);
+    Desk& ws = at_cloud(s);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text5, "7");
     ws.type(k.Text6, "2");
@@ -159,7 +159,7 @@ TEST(Cloud, HeightRangesByLayer) {
 
 TEST(Cloud, OvercastForcesTheLayersAbove) {
   test::Station s;
-  Workstation& ws = at_cloud(s);
+  Desk& ws = at_cloud(s);
   FrmKashf& k = ws.FrmKashf;
   ws.type(k.Text5, "8");
   ws.type(k.Text6, "8");
@@ -174,7 +174,7 @@ TEST(Cloud, OvercastForcesTheLayersAbove) {
   EXPECT_EQ(ws.focused(), &k.Text50);
 
   test::Station s2;
-  Workstation& w2 = at_cloud(s2, kMetar);
+  Desk& w2 = at_cloud(s2, kMetar);
   FrmKashf& k2 = w2.FrmKashf;
   w2.type(k2.Text5, "8");
   w2.type(k2.Text17, "8");
@@ -199,7 +199,7 @@ TEST(Cloud, RainfallRuleEndsTheBlock) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_cloud(s, c.kind, c.hour, c.twelve);
+    Desk& ws = at_cloud(s, c.kind, c.hour, c.twelve);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text5, "3");
     ws.type(k.Text22, "0");

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -43,7 +43,7 @@ struct Entry {
     ws.focus_now(k.Text38);
   }
   test::Station s;
-  Workstation& ws;
+  Desk& ws;
   FrmKashf& k;
 };
 

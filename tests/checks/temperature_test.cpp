@@ -6,7 +6,7 @@
 #include "checks/limits.h"
 #include "checks/temperature_words.h"
 #include "physics/entry_fixture.h"
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 
 namespace obsdesk {
 namespace {

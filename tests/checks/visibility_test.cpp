@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "checks/entry_checks.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -12,8 +12,8 @@ namespace {
 constexpr const char* kConfirm = "? آيا ديد افقي را تائيد مينمائيد ؟";
 
 // A METAR at 09 UTC with the wind typed, the focus on the visibility.
-Workstation& at_visibility(test::Station& s, std::string_view kind = kMetar) {
-  Workstation& ws = s.open_entry();
+Desk& at_visibility(test::Station& s, std::string_view kind = kMetar) {
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   k.Text48.text = "12";
   if (k.Combo5.text != kind) ws.choose(k.Combo5, kind);
@@ -47,7 +47,7 @@ TEST(Visibility, TypedTextToMetres) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_visibility(s);
+    Desk& ws = at_visibility(s);
     FrmKashf& k = ws.FrmKashf;
     s.asker.queue(c.answer);
     ws.type(k.Text4, c.typed);
@@ -64,7 +64,7 @@ TEST(Visibility, TypedTextToMetres) {
 
 TEST(Visibility, CharactersAndTheWindFirst) {
   test::Station s;
-  Workstation& ws = at_visibility(s);
+  Desk& ws = at_visibility(s);
   FrmKashf& k = ws.FrmKashf;
   ws.type(k.Text4, "5k");
   EXPECT_EQ(k.Text4.text, "");
@@ -91,7 +91,7 @@ TEST(Visibility, MinimumAndMaximumBorrowTheirWords) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_visibility(s);
+    Desk& ws = at_visibility(s);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text4, "5");
     ws.set_text(k.CMbMAX, "N");
@@ -109,7 +109,7 @@ TEST(Visibility, DirectionListsNormalise) {
   const Case cases[] = {{"n", "N"}, {"sw", "SW"}, {"EN", "NE"}, {"wn", "NW"}, {"nn", ""}, {"sn", ""}, {"NWW", ""}};
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_visibility(s);
+    Desk& ws = at_visibility(s);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text4, "5");
     ws.type(k.CMbMAX, c.typed);
@@ -120,7 +120,7 @@ TEST(Visibility, DirectionListsNormalise) {
 
 TEST(Visibility, AnExtremeNeedsItsDirectionAndTheVisibility) {
   test::Station s;
-  Workstation& ws = at_visibility(s);
+  Desk& ws = at_visibility(s);
   FrmKashf& k = ws.FrmKashf;
   ws.type(k.Text4, "5");
   ws.type(k.Text26, "9");

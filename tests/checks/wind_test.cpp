@@ -3,7 +3,7 @@
 // texts of 21 UTC.
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -13,8 +13,8 @@ constexpr const char* kCheckDirection = "FrmERR: مــقدار ســمت با�
 constexpr const char* kCheckSpeed = "FrmERR: مــقدار ســرعت باد را چــك نمـائيـــد";
 
 // The entry screen of a report kind at 09 UTC, the focus on the direction.
-Workstation& at_wind(test::Station& s, std::string_view kind = kMetar) {
-  Workstation& ws = s.open_entry();
+Desk& at_wind(test::Station& s, std::string_view kind = kMetar) {
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   k.Text48.text = "12";
   if (k.Combo5.text != kind) ws.choose(k.Combo5, kind);
@@ -49,7 +49,7 @@ TEST(Wind, Direction) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_wind(s);
+    Desk& ws = at_wind(s);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text2, c.typed);
     if (c.leave) ws.focus_now(k.Text3);
@@ -81,7 +81,7 @@ TEST(Wind, SpeedAgainstTheDirectionAndTheLimits) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = at_wind(s);
+    Desk& ws = at_wind(s);
     FrmKashf& k = ws.FrmKashf;
     ws.FrmOption.txtmax8.text = c.limit;
     k.Text2.text = c.dd;
@@ -99,7 +99,7 @@ TEST(Wind, SpeedAgainstTheDirectionAndTheLimits) {
 
 TEST(Wind, SpeedNeedsADirectionFirst) {
   test::Station s;
-  Workstation& ws = at_wind(s);
+  Desk& ws = at_wind(s);
   FrmKashf& k = ws.FrmKashf;
   ws.focus_now(k.Text3);
   EXPECT_EQ(ws.focused(), &k.Text2);
@@ -114,7 +114,7 @@ TEST(Wind, SpeedNeedsADirectionFirst) {
 TEST(Wind, EnterAfterTheSpeedAndTheGustGroup) {
   for (std::string_view kind : {kMetar, kSynop}) {
     test::Station s;
-    Workstation& ws = at_wind(s, kind);
+    Desk& ws = at_wind(s, kind);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text2, "240");
     ws.type(k.Text3, "8");
@@ -129,7 +129,7 @@ TEST(Wind, EnterAfterTheSpeedAndTheGustGroup) {
 
 TEST(Wind, WindTextsOf21AreFiveCharacters) {
   test::Station s;
-  Workstation& ws = at_wind(s, kSynop);
+  Desk& ws = at_wind(s, kSynop);
   FrmKashf& k = ws.FrmKashf;
   k.Text2.text = "090";
   ws.type(k.Text1, "21");

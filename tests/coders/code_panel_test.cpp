@@ -21,7 +21,7 @@ TEST(CodePanel, DerivedWind) {
 
 TEST(CodePanel, MirrorCountAndDerivedWindOnTheScreen) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmCode& p = ws.FrmCode;
   ws.set_text(p.Text5, "R29/1200");
   EXPECT_EQ(p.Text16.text, "R29/1200");
@@ -45,7 +45,7 @@ TEST(CodePanel, MirrorCountAndDerivedWindOnTheScreen) {
 
 TEST(CodePanel, OpensWithTheSpeciCopiesAndGoesBack) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmCode& p = ws.FrmCode;
   p.Text1.text = "WS R29";
   p.Text2.text = "RERA";
@@ -63,7 +63,7 @@ TEST(CodePanel, OpensWithTheSpeciCopiesAndGoesBack) {
 TEST(CodePanel, TheStoreKeepsThePanelBetweenRuns) {
   test::Station s;
   {
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     ws.click(ws.FrmKashf.Command5);
     ws.set_text(ws.FrmCode.Text85, "70222");
     ws.set_text(ws.FrmCode.Text4, "-RA");
@@ -71,13 +71,13 @@ TEST(CodePanel, TheStoreKeepsThePanelBetweenRuns) {
   }
   test::Station again;  // another bank: a fresh store stays blank
   {
-    Workstation& ws = again.open_entry();
+    Desk& ws = again.open_entry();
     ws.click(ws.FrmKashf.Command5);
     EXPECT_EQ(ws.FrmCode.Text85.text, "     ");
   }
   // The same bank: a new workstation finds the panel as it was left, but a box
   // written before the panel was loaded keeps what was written.
-  Workstation& ws = s.restart();
+  Desk& ws = s.restart();
   ws.FrmCode.Text4.text = "+TSRA";
   load_code_panel(ws);
   EXPECT_EQ(ws.FrmCode.Text85.text, "70222");
@@ -88,12 +88,12 @@ TEST(CodePanel, TheStoreKeepsThePanelBetweenRuns) {
 TEST(CodePanel, AClearedPanelIsStoredClearedWithoutGoingBack) {
   test::Station s;
   {
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     ws.set_text(ws.FrmCode.Text85, "70222");  // a picker drops a group in
     ws.set_text(ws.FrmCode.Text87, "90550");
     ws.set_text(ws.FrmCode.Text85, "     ");  // the confirmation clears it
   }
-  Workstation& ws = s.restart();
+  Desk& ws = s.restart();
   load_code_panel(ws);
   EXPECT_EQ(ws.FrmCode.Text85.text, "     ");
   EXPECT_EQ(ws.FrmCode.Text87.text, "90550");
@@ -118,7 +118,7 @@ TEST(CodePanel, ABankWithoutTheTableGetsIt) {
     db.exec("DROP TABLE COOD");
     db.exec("CREATE TABLE COOD (\"IRIXHVV\" TEXT)");  // an older table with one column and no row
   }
-  Workstation& ws = *s.ws;
+  Desk& ws = *s.ws;
   load_code_panel(ws);
   EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
   EXPECT_EQ(ws.FrmCode.Text77.text, "     ");

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -29,7 +29,7 @@ const Fields kExample = {
 
 struct Entry {
   test::Station s;
-  Workstation& ws;
+  Desk& ws;
   explicit Entry(std::string_view kind, const Fields& changes = {}) : ws(s.open_entry()) {
     ws.focus_now(ws.FrmKashf.Combo5);
     ws.choose(ws.FrmKashf.Combo5, kind);

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "coders/coder_common.h"
-#include "core/record.h"
+#include "screens/record.h"
 
 namespace obsdesk {
 namespace {

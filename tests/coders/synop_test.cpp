@@ -9,14 +9,14 @@
 
 #include "coders/code_panel.h"
 #include "coders/synop_groups.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
 namespace {
 
 // Texts put straight into the boxes, as an observer leaves them.
-void put(Workstation& ws, std::initializer_list<std::pair<const char*, const char*>> values) {
+void put(Desk& ws, std::initializer_list<std::pair<const char*, const char*>> values) {
   for (const auto& [name, text] : values) {
     Control* c = ws.control(name);
     ASSERT_NE(c, nullptr) << name;
@@ -26,7 +26,7 @@ void put(Workstation& ws, std::initializer_list<std::pair<const char*, const cha
 
 // The report as a bulletin carries it, section 0 in front, against its file in
 // tests/data/synop, which any FM-12 decoder can read.
-void expect_bulletin_file(Workstation& ws, const std::string& file) {
+void expect_bulletin_file(Desk& ws, const std::string& file) {
   std::ifstream in(std::string(OBSDESK_SOURCE_DIR) + "/tests/data/synop/" + file);
   ASSERT_TRUE(in) << file;
   std::string stored;
@@ -36,7 +36,7 @@ void expect_bulletin_file(Workstation& ws, const std::string& file) {
 }
 
 // The worked example: hour 12, a layer of cumulus at 600 m, no weather group.
-void fill_worked_example(Workstation& ws) {
+void fill_worked_example(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Combo5.text = std::string(kSynop);
   k.Cmdsynop.enabled = true;
@@ -55,12 +55,12 @@ void fill_worked_example(Workstation& ws) {
 struct Example {
   explicit Example(DateTime now = {2024, 3, 20, 5, 40, 0}) : s(now), ws(s.open_entry()) { fill_worked_example(ws); }
   test::Station s;
-  Workstation& ws;
+  Desk& ws;
 };
 
 TEST(SynopReport, WholeRunFromTheBoxesToTheLines) {
   Example e;
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   ws.click(ws.FrmKashf.Cmdsynop);
   FrmCode& p = ws.FrmCode;
   EXPECT_EQ(ws.take_messages(), std::vector<std::string>{});
@@ -85,7 +85,7 @@ TEST(SynopReport, WholeRunFromTheBoxesToTheLines) {
 
 TEST(SynopReport, ALongReportBreaksAtTheLastBlankWithin61) {
   Example e;
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   put(ws, {{"Text1", "15"}, {"Text60", "31.2"}, {"Text59", "12.5"}, {"Text32", "20.4"}, {"Text33", "-"},
            {"TXT_QNT", "91234"}});
   ws.FrmCode.Text85.text = "70222";
@@ -121,7 +121,7 @@ TEST(SynopReport, RefusalsAndFailuresStopTheRunWhereTheyStand) {
   };
   for (const Case& c : table) {
     Example e;
-    Workstation& ws = e.ws;
+    Desk& ws = e.ws;
     for (const auto& [name, text] : c.values) ws.control(name)->text = text;
     // What an earlier run of the coder left.
     ws.FrmKashf.txtSYN.text = "before";
@@ -170,7 +170,7 @@ TEST(SynopReport, CloudCheckWhenTheButtonGetsTheFocus) {
   };
   for (const Case& c : table) {
     Example e;
-    Workstation& ws = e.ws;
+    Desk& ws = e.ws;
     for (const auto& [name, text] : c.values) ws.control(name)->text = text;
     ws.take_messages();
     EXPECT_FALSE(synop_cloud_check(ws)) << c.name;
@@ -188,7 +188,7 @@ TEST(SynopReport, CloudCheckWhenTheButtonGetsTheFocus) {
   // the box, and there is no click.
   {
     Example e;
-    Workstation& ws = e.ws;
+    Desk& ws = e.ws;
     put(ws, {{"Text9", "900"}});
     ws.FrmKashf.txtSYN.text = "before";
     ws.click(ws.FrmKashf.Cmdsynop);
@@ -197,7 +197,7 @@ TEST(SynopReport, CloudCheckWhenTheButtonGetsTheFocus) {
   }
   // A sky of 9 or 0 is not checked.
   Example e;
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   put(ws, {{"Text5", "9"}, {"Text9", "900"}});
   ws.click(ws.FrmKashf.Cmdsynop);
   EXPECT_EQ(ws.FrmKashf.txtSYN.text.substr(0, 11), "32/58 92404");
@@ -205,7 +205,7 @@ TEST(SynopReport, CloudCheckWhenTheButtonGetsTheFocus) {
 
 TEST(SynopReport, PointerOverTheButtonAsksForTheWeather) {
   Example e;
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   put(ws, {{"Image1", ""}, {"Image2", ""}});
   ws.FrmOption.Text7.text = "";  // a blank observer is left out
   ws.click(ws.FrmKashf.Cmdsynop);
@@ -219,7 +219,7 @@ TEST(SynopReport, PointerOverTheButtonAsksForTheWeather) {
 
 TEST(SynopReport, AReportAfterMidnightTakesTheNextDay) {
   Example e({2024, 2, 28, 23, 40, 0});
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   put(ws, {{"Text1", "00"}, {"TXTMONTHMI", "02"}, {"TXTDAYmi", "28"}, {"TXTDAYsh", "09"}});
   ws.click(ws.FrmKashf.Cmdsynop);
   EXPECT_EQ(ws.FrmKashf.TXTDAYmi.text, "29");
@@ -235,7 +235,7 @@ TEST(SynopReport, TwelveHourStationLinesTakeTheDateOfTheClock) {
   const std::pair<const char*, const char*> table[] = {{"18", "21"}, {"21", "21"}, {"00", "20"}};
   for (const auto& [hour, day] : table) {
     Example e({2024, 3, 20, 15, 10, 0});
-    Workstation& ws = e.ws;
+    Desk& ws = e.ws;
     ws.FrmOption.Combo1.text = std::string(kStation12);
     put(ws, {{"Text1", hour}});
     ws.FrmKashf.ZAKHIREH.enabled = false;
@@ -253,7 +253,7 @@ TEST(SynopReport, TwelveHourStationLinesTakeTheDateOfTheClock) {
 // the pan, the 24-hour rain and the upper-air slot.
 TEST(SynopReport, FullSixHourReportWithSections3And5) {
   Example e({2024, 3, 20, 6, 40, 0});
-  Workstation& ws = e.ws;
+  Desk& ws = e.ws;
   put(ws, {{"Text1", "06"}, {"Text48", "12"}, {"Text5", "7"}, {"Text2", "270"}, {"Text3", "6"}, {"Text4", "12000"},
            {"Text6", "2"}, {"Combo1", "CU     2"}, {"Text7", "800"}, {"Text8", "3"}, {"Combo2", "CB     9"},
            {"Text9", "1200"}, {"Text10", "2"}, {"Combo3", "SC     4"}, {"Text11", "1600"}, {"Text49", "5"},

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 
 namespace obsdesk {
 namespace {

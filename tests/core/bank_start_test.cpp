@@ -8,8 +8,9 @@
 
 #include "archive/report_fixture.h"
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/program.h"
+#include "station/program.h"
 
 namespace obsdesk {
 namespace {
@@ -118,7 +119,7 @@ TEST(BankStart, ADamagedDatabaseIsNamedKeptAndCopied) {
     SCOPED_TRACE(c.name);
     test::Station s({2025, 1, 15, 6, 5, 0});
     {
-      Workstation& ws = s.open_browser();
+      Desk& ws = s.open_browser();
       for (int i = 0; i < 6; ++i) {
         test::new_report(ws, {});
         test::confirm(ws);
@@ -139,7 +140,7 @@ TEST(BankStart, ADamagedDatabaseIsNamedKeptAndCopied) {
     const bool is_file = fs::is_regular_file(file);
     const std::string bytes = is_file ? test::read_bytes(file) : "";
     s.ws = std::make_unique<Workstation>(s.root(), Services{s.asker, s.clock, s.clipboard});
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.click(ws.FrmMain.Command2);
     const auto told = ws.take_messages();
     ASSERT_FALSE(told.empty());
@@ -168,7 +169,7 @@ TEST(BankStart, WhatTheBankLacksIsMadeAndToldAndNothingIsOverwritten) {
     db.exec("DROP TABLE COOD");
     db.exec("INSERT INTO KASHF (NOTE) VALUES ('kept')");
   }
-  Workstation& ws = s.restart();
+  Desk& ws = s.restart();
   const auto told = ws.take_messages();
   ASSERT_EQ(told.size(), 1u);
   EXPECT_NE(told[0].find(past.string()), std::string::npos) << told[0];
@@ -200,7 +201,7 @@ TEST(BankStart, ARootThatCannotBeHeldIsToldWithItsReason) {
 // saves on its first day, a January 06 UTC report with no December behind it.
 TEST(BankStart, ANewStationSavesItsFirstJanuaryMorning) {
   test::Station s({2025, 1, 15, 6, 5, 0});
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmOption& o = ws.FrmOption;
   ws.click(ws.FrmMain.Command10);  // the settings screen
   ws.click(o.Label45);
@@ -215,7 +216,7 @@ TEST(BankStart, ANewStationSavesItsFirstJanuaryMorning) {
   EXPECT_TRUE(fs::is_directory(station / "TEXT" / "SCDATA"));
   EXPECT_TRUE(fs::is_directory(station / "TEXT" / "KASHF"));
 
-  Workstation& again = s.restart();
+  Desk& again = s.restart();
   EXPECT_EQ(again.FrmMain.txtpathnamebank1.text, "VARDOK\\BANK\\OIMM\\ACCESS\\Kashf.mdb");
   again.take_messages();
   again.click(again.FrmMain.Command2);

@@ -1,6 +1,6 @@
 // Program start: the bank made on a first start, the second copy refused, the
 // station row chosen by number, the start screen's commands and bad banks.
-#include "core/program.h"
+#include "station/program.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "bank/bank.h"
 #include "bank/sqlite.h"
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -33,7 +33,7 @@ void set_id(const Station& s, const std::string& id) {
 
 TEST(Start, AFirstStartMakesTheBankAndShowsTheDemoStation) {
   Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   EXPECT_FALSE(ws.frmAbout.visible);
   EXPECT_EQ(ws.active_screen(), &ws.FrmMain);
   EXPECT_EQ(ws.FrmOption.Text7.text, "علي محمدي");
@@ -80,7 +80,7 @@ TEST(Start, TheStationRowIsChosenByTheIdNumber) {
 
 TEST(Start, TheIdBoxTakesThreeDigitsAndIsKeptForTheNextActivation) {
   Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.click(ws.FrmMain.Label2);
   ASSERT_TRUE(ws.FrmMain.Text1.visible);
   for (const char* bad : {"1234", "x"}) {
@@ -103,7 +103,7 @@ TEST(Start, TheWaitScreenActsOnTheNextScreenCode) {
   } cases[] = {{2, "FrmOption"}, {16, "FrmHelp"}, {44, "FrmKashf"}, {10, "FrmMain"}, {99, "FrmMain"}};
   for (const auto& c : cases) {
     Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.next_screen = c.code;
     ws.show(ws.FrmEntezar);
     ws.click(ws.FrmMain.Label2);  // any input lets the wait screen's tick run
@@ -116,7 +116,7 @@ TEST(Start, TheWaitScreenActsOnTheNextScreenCode) {
 
 TEST(Start, ChoosingTheBankStoresThePathWithoutTheDrive) {
   Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.dbl_click(ws.FrmMain.Label34);
   ASSERT_TRUE(ws.FrmMain.Frame1.visible);
   ws.set_text(ws.FrmMain.CommonDialog1, "C:\\VARDOK\\BANK\\OIMM\\ACCESS\\Kashf.mdb");
@@ -144,7 +144,7 @@ TEST(Start, AMissingOrDamagedControlDatabaseIsToldByNameAndTheRestGoesOn) {
       << "garbage garbage garbage garbage garbage garbage garbage garbage garbage garbage";
   Station again(test::Root::Empty);
   std::filesystem::rename(s.root(), again.root());
-  Workstation& ws = again.start();
+  Desk& ws = again.start();
   const auto msgs = ws.take_messages();
   auto told = [&](const char* file) {
     for (const auto& m : msgs)
@@ -183,7 +183,7 @@ TEST(Colours, TheFormColourIsReadInBothSpellings) {
 // cancelled chooser changes nothing.
 TEST(Colours, AChosenColourIsAppliedAndKeptForTheNextStart) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   const std::string before = ws.FrmMain.TxtBackColor.text;
   ws.set_text(ws.FrmMain.CommonDialog1, "");
   ws.click(ws.FrmMain.LabColor);
@@ -193,7 +193,7 @@ TEST(Colours, AChosenColourIsAppliedAndKeptForTheNextStart) {
   EXPECT_EQ(ws.FrmMain.TxtBackColor.text, "8421631");
   EXPECT_EQ(ws.FrmMain.Frame3.back_color, 8421631);
   EXPECT_EQ(ws.FrmKashf.Frameh1.back_color, 8421631);
-  Workstation& again = s.restart();
+  Desk& again = s.restart();
   EXPECT_EQ(again.FrmMain.TxtBackColor.text, "8421631");
   EXPECT_EQ(again.FrmMain.Frame3.back_color, 8421631);
   EXPECT_EQ(again.FrmDisplayKashf.Frame1.back_color, 8421631);

@@ -1,9 +1,9 @@
 // The report kind in Combo5 shows and locks the groups of the entry screen.
-#include "core/report_kind.h"
+#include "station/report_kind.h"
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -32,7 +32,7 @@ TEST(ReportKind, ShowsAndLocksTheGroupsOfItsKind) {
   };
   for (const Expected& e : table) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.show(ws.FrmKashf);
     FrmKashf& k = ws.FrmKashf;
     ws.focus_now(k.Combo5);
@@ -78,7 +78,7 @@ TEST(ReportKind, ShowsAndLocksTheGroupsOfItsKind) {
 
 TEST(ReportKind, ATypedTextThatIsNoKindIsWiped) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.show(ws.FrmKashf);
   ws.type(ws.FrmKashf.Combo5, "SYN");
   EXPECT_EQ(ws.FrmKashf.Combo5.text, "");
@@ -87,7 +87,7 @@ TEST(ReportKind, ATypedTextThatIsNoKindIsWiped) {
 
 TEST(ReportKind, HiddenGroupsKeepTheirValues) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.show(ws.FrmKashf);
   ws.choose(ws.FrmKashf.Combo5, kSynop);
   ws.set_text(ws.FrmKashf.Text25, "1.2");

@@ -1,10 +1,10 @@
 // One life of the entry screen: its opening, the hour box and the groups of the
 // hour, the Enter walk, the remarks step, the re-edit and the observer's name.
-#include "core/session.h"
+#include "station/session.h"
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
 #include "support/test_support.h"
 
@@ -12,8 +12,8 @@ namespace obsdesk {
 namespace {
 
 // The entry screen with a report kind chosen, iR iX filled for the SYNOP kinds.
-Workstation& entry(test::Station& s, std::string_view kind = kMetar) {
-  Workstation& ws = s.open_entry();
+Desk& entry(test::Station& s, std::string_view kind = kMetar) {
+  Desk& ws = s.open_entry();
   ws.FrmKashf.Text48.text = "12";
   if (ws.FrmKashf.Combo5.text != kind) ws.choose(ws.FrmKashf.Combo5, kind);
   return ws;
@@ -21,7 +21,7 @@ Workstation& entry(test::Station& s, std::string_view kind = kMetar) {
 
 TEST(Session, OpeningPrimesTheForm) {
   test::Station s({2024, 3, 20, 5, 40, 0});
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   EXPECT_EQ(k.Text49.text + k.txtmin.text + k.Text16.text, "000");
   EXPECT_EQ(k.Combo3.text, kNoCloud);  // though its list has no such item
@@ -31,7 +31,7 @@ TEST(Session, OpeningPrimesTheForm) {
 
 TEST(Session, TodaysPersianDateIsClearedOnTheTwentyNinthOfFebruary) {
   test::Station s({2024, 2, 29, 10, 0, 0});
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   EXPECT_EQ(ws.FrmKashf.TXTDAYmi.text, "29");
   EXPECT_EQ(ws.FrmKashf.TXTYEARsh.text + ws.FrmKashf.TXTMONTHSH.text + ws.FrmKashf.TXTDAYsh.text, "");
 }
@@ -45,7 +45,7 @@ TEST(Session, HourBoxTakesOneOrTwoDigitsUpTo23) {
   const Case cases[] = {{"3", "3", false}, {"23", "23", false}, {"24", "00", false}, {"2a", "", true}};
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = entry(s);
+    Desk& ws = entry(s);
     ws.take_messages();
     ws.type(ws.FrmKashf.Text1, c.typed);
     EXPECT_EQ(ws.FrmKashf.Text1.text, c.kept) << c.typed;
@@ -78,7 +78,7 @@ TEST(Session, GroupsShownByHour) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = entry(s, kSynop);
+    Desk& ws = entry(s, kSynop);
     FrmKashf& k = ws.FrmKashf;
     ws.type(k.Text1, c.hour);
     EXPECT_EQ(shown({&k.Frame15, &k.Frame5, &k.Frame8, &k.Frame10, &k.Txttond, &k.Text51, &k.Text53, &k.txtpast6,
@@ -100,7 +100,7 @@ TEST(Session, GroupsShownByHour) {
 
 TEST(Session, EnteringTheHourNeedsAKindAndIrix) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   ws.choose(k.Combo5, kSynop);
   ws.take_messages();
@@ -117,7 +117,7 @@ TEST(Session, EnteringTheHourNeedsAKindAndIrix) {
 TEST(Session, TwelveHourStationAtNightReadsOnlyTheDryBulb) {
   for (const char* hour : {"18", "00", "24"}) {
     test::Station s;
-    Workstation& ws = entry(s, kSynMet);
+    Desk& ws = entry(s, kSynMet);
     FrmKashf& k = ws.FrmKashf;
     ws.FrmOption.Combo1.text = std::string(kStation12);
     ws.type(k.Text1, hour);
@@ -132,7 +132,7 @@ TEST(Session, TwelveHourStationAtNightReadsOnlyTheDryBulb) {
     EXPECT_FALSE(k.Command4.enabled) << hour;
   }
   test::Station s;
-  Workstation& ws = entry(s, kSynop);
+  Desk& ws = entry(s, kSynop);
   ws.FrmOption.Combo1.text = std::string(kStation12);
   ws.type(ws.FrmKashf.Text1, "15");
   EXPECT_FALSE(ws.FrmKashf.Frameh1.visible);
@@ -155,7 +155,7 @@ TEST(Session, RemarksOpenTheWeatherQuestion) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = entry(s, c.kind);
+    Desk& ws = entry(s, c.kind);
     FrmKashf& k = ws.FrmKashf;
     k.Text48.text = c.irix;
     k.Text4.text = c.vis;
@@ -172,7 +172,7 @@ TEST(Session, RemarksOpenTheWeatherQuestion) {
 
 TEST(Session, ObserverChosenAfterTheCoderOpensConfirmation) {
   test::Station s;
-  Workstation& ws = entry(s, kMetar);
+  Desk& ws = entry(s, kMetar);
   FrmKashf& k = ws.FrmKashf;
   ws.dbl_click(k.Command4);  // the pointer over the button (the run fails: nothing typed)...
   ws.METAR_coded = 1;        // ...as if it had coded...
@@ -199,7 +199,7 @@ TEST(Session, ConfirmationWaitsForEveryCoderOfTheKind) {
   };
   for (const auto& c : cases) {
     test::Station s;
-    Workstation& ws = entry(s, c.kind);
+    Desk& ws = entry(s, c.kind);
     FrmKashf& k = ws.FrmKashf;
     k.Combo7.items = {"OBSERVER"};
     ws.SYNOP_coded = c.synop;
@@ -214,7 +214,7 @@ TEST(Session, ConfirmationWaitsForEveryCoderOfTheKind) {
 // the entry screen has closed, the next report reads its wet bulb again.
 TEST(Session, HumidityModeEndsWithTheEntryScreen) {
   test::Station s({2024, 3, 20, 2, 40, 0});
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   // A SYN & MET report up to the dry bulb, clear sky, T12 at hand.
   auto up_to_dry_bulb = [&](const char* hour, const char* tdry) {

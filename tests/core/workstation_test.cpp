@@ -1,5 +1,5 @@
 // The event semantics every rule stands on, on a small screen of the test's own.
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 #include <gtest/gtest.h>
 
@@ -29,10 +29,10 @@ class Events : public ::testing::Test {
     pad.Mask.visible = false;
     ws().show(pad);
   }
-  Workstation& ws() { return *station.ws; }
+  Desk& ws() { return *station.ws; }
   void log_focus(Control& c) {
-    c.on(Event::Enter, [this, &c](Workstation&) { trail += "enter " + c.name + ";"; });
-    c.on(Event::Leave, [this, &c](Workstation&) { trail += "leave " + c.name + ";"; });
+    c.on(Event::Enter, [this, &c](Desk&) { trail += "enter " + c.name + ";"; });
+    c.on(Event::Leave, [this, &c](Desk&) { trail += "leave " + c.name + ";"; });
   }
   test::Station station;
   Pad pad;
@@ -43,7 +43,7 @@ TEST_F(Events, FocusMovesAfterTheHandlerLeaveThenEnter) {
   log_focus(pad.A);
   log_focus(pad.B);
   ws().focus_now(pad.A);
-  pad.A.on(Event::KeyEnter, [&](Workstation& w) {
+  pad.A.on(Event::KeyEnter, [&](Desk& w) {
     w.focus(pad.B);
     trail += "handler goes on;";
   });
@@ -56,8 +56,8 @@ TEST_F(Events, FocusMovesAfterTheHandlerLeaveThenEnter) {
 }
 
 TEST_F(Events, TwoRulesHandingTheFocusBackAndForthStop) {
-  pad.A.on(Event::Leave, [&](Workstation& w) { w.focus(pad.A); });
-  pad.B.on(Event::Leave, [&](Workstation& w) { w.focus(pad.B); });
+  pad.A.on(Event::Leave, [&](Desk& w) { w.focus(pad.A); });
+  pad.B.on(Event::Leave, [&](Desk& w) { w.focus(pad.B); });
   ws().focus_now(pad.A);
   ws().focus_now(pad.B);  // would hand the focus back and forth for ever
   EXPECT_NE(ws().focused(), nullptr);
@@ -66,8 +66,8 @@ TEST_F(Events, TwoRulesHandingTheFocusBackAndForthStop) {
 TEST_F(Events, TypingReplacesTheTextThenAddsOneCharacterAChange) {
   std::vector<std::string> seen;
   std::string keys;
-  pad.B.on(Event::Change, [&](Workstation&) { seen.push_back(pad.B.text); });
-  pad.B.on(Event::KeyUp, [&](Workstation& w) { keys += w.key(); });
+  pad.B.on(Event::Change, [&](Desk&) { seen.push_back(pad.B.text); });
+  pad.B.on(Event::KeyUp, [&](Desk& w) { keys += w.key(); });
   ws().set_text(pad.B, "old");
   seen.clear();
   ws().type(pad.B, "1234");  // max length 3: the fourth key does nothing
@@ -98,13 +98,13 @@ TEST_F(Events, PersianKeyboardDigitsAreTypedAsFigures) {
     EXPECT_EQ(pad.A.text, c.text) << c.typed;
   }
   std::string key;
-  pad.C.on(Event::KeyUp, [&](Workstation& w) { key = w.key(); });
+  pad.C.on(Event::KeyUp, [&](Desk& w) { key = w.key(); });
   ws().key_up(pad.C, "۷");
   EXPECT_EQ(key, "7");
 }
 
 TEST_F(Events, TypingStopsWhenARuleSendsTheFocusAway) {
-  pad.A.on(Event::Change, [&](Workstation& w) {
+  pad.A.on(Event::Change, [&](Desk& w) {
     if (pad.A.text == "c") w.focus(pad.B);  // as "c" in the wind direction does
   });
   ws().type(pad.A, "cde");
@@ -115,7 +115,7 @@ TEST_F(Events, TypingStopsWhenARuleSendsTheFocusAway) {
 
 TEST_F(Events, TheMessagePanelDoesNotHoldTheCaller) {
   std::string after;
-  pad.A.on(Event::Change, [&](Workstation& w) {
+  pad.A.on(Event::Change, [&](Desk& w) {
     w.error("مــقدار را چــك نمـائيـــد");
     after = "went on";
   });
@@ -132,9 +132,9 @@ TEST_F(Events, TheMessagePanelDoesNotHoldTheCaller) {
 }
 
 TEST_F(Events, AFailingHandlerIsToldOnThePanelAndTheRestGoesOn) {
-  pad.A.on(Event::Change, [](Workstation&) { throw std::runtime_error("Type mismatch"); });
+  pad.A.on(Event::Change, [](Desk&) { throw std::runtime_error("Type mismatch"); });
   int b_changes = 0;
-  pad.B.on(Event::Change, [&](Workstation&) { ++b_changes; });
+  pad.B.on(Event::Change, [&](Desk&) { ++b_changes; });
   ws().set_text(pad.A, "x");
   ws().set_text(pad.B, "y");
   EXPECT_EQ(ws().FrmERR.Label1.text, "Type mismatch");
@@ -143,9 +143,9 @@ TEST_F(Events, AFailingHandlerIsToldOnThePanelAndTheRestGoesOn) {
 
 TEST_F(Events, AnEndlessChainOfChangesIsStopped) {
   // Each change sets a longer text: every set differs, so only the depth stops it.
-  pad.A.on(Event::Change, [&](Workstation& w) { w.set(pad.B, pad.A.text + "a"); });
-  pad.B.on(Event::Change, [&](Workstation& w) { w.set(pad.C, pad.B.text + "b"); });
-  pad.C.on(Event::Change, [&](Workstation& w) { w.set(pad.A, pad.C.text + "c"); });
+  pad.A.on(Event::Change, [&](Desk& w) { w.set(pad.B, pad.A.text + "a"); });
+  pad.B.on(Event::Change, [&](Desk& w) { w.set(pad.C, pad.B.text + "b"); });
+  pad.C.on(Event::Change, [&](Desk& w) { w.set(pad.A, pad.C.text + "c"); });
   ws().set_text(pad.A, "x");
   EXPECT_EQ(pad.B.text, "xa");  // A is guarded while its handler runs
 }
@@ -157,7 +157,7 @@ TEST_F(Events, AChainDeeperThanTheRuntimeAllowsIsStopped) {
   std::deque<TextBox> boxes;
   for (int i = 0; i < 300; ++i) boxes.emplace_back(deep, "T" + std::to_string(i));
   for (std::size_t i = 0; i + 1 < boxes.size(); ++i)
-    boxes[i].on(Event::Change, [&boxes, i](Workstation& w) { w.set(boxes[i + 1], "x"); });
+    boxes[i].on(Event::Change, [&boxes, i](Desk& w) { w.set(boxes[i + 1], "x"); });
   ws().set_text(boxes[0], "x");
   EXPECT_EQ(boxes[150].text, "x");
   EXPECT_EQ(boxes.back().text, "");
@@ -190,8 +190,8 @@ TEST_F(Events, OpeningAnotherScreenDoesNotMakeTheBoxLeave) {
 }
 
 TEST_F(Events, OneHandlerAMoment) {
-  pad.A.on(Event::Change, [](Workstation&) {});
-  EXPECT_THROW(pad.A.on(Event::Change, [](Workstation&) {}), std::logic_error);
+  pad.A.on(Event::Change, [](Desk&) {});
+  EXPECT_THROW(pad.A.on(Event::Change, [](Desk&) {}), std::logic_error);
 }
 
 TEST_F(Events, ControlsAreFoundByScreenAndName) {

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "desktop/binder.h"
 #include "desktop/services.h"
 #include "support/test_support.h"
@@ -21,7 +21,7 @@ struct Bound {
   test::Station st{{2024, 3, 20, 6, 40, 0}};
   std::unique_ptr<Binder> binder;
   std::unique_ptr<test::WidgetDriver> hands;
-  Workstation& ws;
+  Desk& ws;
   FrmKashf& k;
   explicit Bound(bool walk_on = true) : ws(st.open_entry()), k(ws.FrmKashf) {
     binder = std::make_unique<Binder>(ws);
@@ -133,7 +133,7 @@ TEST(Binder, TheMessagePanelNeverBlocks) {
 // hidden behind the browser until a new report opens it.
 TEST(Binder, WindowsAreShownAndMadeModalAsTheirScreens) {
   test::Station st{{2024, 3, 20, 6, 40, 0}};
-  Workstation& ws = st.open_browser();
+  Desk& ws = st.open_browser();
   Binder binder(ws);
   binder.bind_all();
   binder.sync();
@@ -149,7 +149,7 @@ TEST(Binder, WindowsAreShownAndMadeModalAsTheirScreens) {
 
 TEST(Binder, AModalScreenIsAModalWindow) {
   test::Station st{{2024, 3, 20, 6, 40, 0}};
-  Workstation& ws = st.open_browser();
+  Desk& ws = st.open_browser();
   Binder binder(ws);
   binder.bind_all();
   binder.sync();
@@ -170,7 +170,7 @@ TEST(Binder, TheChooserFillsWhatTheClickReads) {
                         Case{"", "unchanged"}}) {
     SCOPED_TRACE(c.chosen);
     test::Station st;
-    Workstation& ws = st.start();
+    Desk& ws = st.start();
     ws.FrmMain.txtpathnamebank1.text = "unchanged";
     ws.FrmMain.Frame1.visible = true;
     Binder binder(ws);

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "coders/synop.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "desktop/app.h"
 #include "support/test_support.h"
 #include "widget_driver.h"
@@ -22,7 +22,7 @@ TEST(Desktop, CopyOutPutsTheBulletinOnTheSystemClipboard) {
   FixedClock clock({2024, 3, 20, 6, 40, 0});
   Desktop desktop(tmp.path() / "bank", clock);
   ASSERT_TRUE(desktop.start());
-  Workstation& ws = desktop.workstation();
+  Desk& ws = desktop.workstation();
   FrmKashf& k = ws.FrmKashf;
   test::WidgetDriver hands(desktop.binder());
   EXPECT_TRUE(desktop.binder().window(ws.FrmMain)->isVisible());
@@ -50,7 +50,7 @@ TEST(Desktop, CodePanelDrawsTheStationModelOfTheCodedSynop) {
   FixedClock clock({2024, 3, 20, 6, 40, 0});
   Desktop desktop(tmp.path() / "bank", clock);
   ASSERT_TRUE(desktop.start());
-  Workstation& ws = desktop.workstation();
+  Desk& ws = desktop.workstation();
   FrmKashf& k = ws.FrmKashf;
   test::WidgetDriver hands(desktop.binder());
   auto* model = desktop.binder().form(ws.FrmCode)->findChild<QLabel*>(QStringLiteral("ui_station_model"));

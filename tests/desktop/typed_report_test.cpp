@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "cli/runner.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 #include "desktop/binder.h"
 #include "support/test_support.h"
 #include "widget_driver.h"
@@ -43,7 +43,7 @@ TEST(TypedReport, SynMetAt06ThroughTheWidgetsWritesTheGoldenFiles) {
     const std::vector<std::string> w = split_command(line);
     if (w.empty()) continue;
     SCOPED_TRACE("line " + std::to_string(number) + ": " + line);
-    Workstation* ws = runner.workstation();
+    Desk* ws = runner.workstation();
     auto control = [&](const std::string& name) -> Control& {
       Control* c = ws->control(name);
       if (c == nullptr) throw std::runtime_error("unknown control " + name);

@@ -12,26 +12,28 @@
 #include <memory>
 
 #include "bank/bank.h"
+#include "screens/bank_tables.h"
 #include "bank/sqlite.h"
-#include "core/seams.h"
-#include "core/workstation.h"
+#include "screens/handoffs.h"
+#include "station/workstation.h"
 #include "desktop/app.h"
 #include "desktop/binder.h"
 #include "settings/station_settings.h"
 #include "support/test_support.h"
 #include "widget_driver.h"
+#include "checks/tendency.h"
 
 namespace obsdesk {
 namespace {
 
 // A workstation on a fresh bank with every screen bound to its form.
-struct Desk {
+struct Rig {
   test::Station st{{2024, 3, 20, 6, 40, 0}};
   std::unique_ptr<Binder> binder;
   std::unique_ptr<test::WidgetDriver> hands;
-  Workstation* ws = nullptr;
+  Desk* ws = nullptr;
 
-  void bind(Workstation& w) {
+  void bind(Desk& w) {
     hands.reset();
     binder.reset();
     ws = &w;
@@ -52,9 +54,9 @@ struct Desk {
 // Settings: a limit edited and stored through the File menu is in the profile
 // after the program runs again, and the entry rules ask about a reading past it.
 TEST(Walk, ALimitStoredInTheSettingsIsInForceAfterARestart) {
-  Desk d;
+  Rig d;
   d.bind(d.st.start());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   FrmOption& o = ws.FrmOption;
   d.hands->click(ws.FrmMain.Command10);
   ASSERT_TRUE(d.up(o));
@@ -79,9 +81,9 @@ TEST(Walk, ALimitStoredInTheSettingsIsInForceAfterARestart) {
 // UpDate ends the program with its reason on the message panel; the panel is the
 // last window up, and the program closes when the observer has read it.
 TEST(Walk, UpDateEndsTheProgramAfterItsMessageIsRead) {
-  Desk d;
+  Rig d;
   d.bind(d.st.start());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   int closed = 0;
   d.binder->on_ended = [&closed] { ++closed; };
   d.hands->click(ws.FrmMain.Command10);
@@ -101,9 +103,9 @@ TEST(Walk, UpDateEndsTheProgramAfterItsMessageIsRead) {
 // The boards: opened from the entry screen's pictures, each picture drawn as its
 // symbol; the pointer over one shows its hint; a click or a key picks.
 TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
-  Desk d;
+  Rig d;
   d.bind(d.st.open_entry());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   FrmKashf& k = ws.FrmKashf;
   d.hands->choose(k.Combo5, "SYN & MET");
   d.hands->type(ws.FrmIRIX.TXTIR, "3");
@@ -170,14 +172,14 @@ TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
 // The browser's search by a Persian date: the day typed in the Persian boxes
 // fills the Gregorian ones and the key, and Find shows that row.
 TEST(Walk, ARecordIsFoundByItsPersianDate) {
-  Desk d;
+  Rig d;
   {
     Database db(resolve_bank_path(d.st.root(), "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"), Database::Mode::ReadWrite);
     for (const char* key : {"2403180600", "2403190600", "2403210600"})
       db.prepare("INSERT INTO KASHF (yymmddttgg, TYPEREPORT, UTC) VALUES (?, 'SYNOP    ', '06')").bind(1, key).run();
   }
   d.bind(d.st.open_browser());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   FrmFind& f = ws.FrmFind;
   ASSERT_EQ(b.TXTYYMMDDTT.text, "2403210600");
@@ -197,9 +199,9 @@ TEST(Walk, ARecordIsFoundByItsPersianDate) {
 // The past hours editor: a value typed in its box is stored and read back by the
 // next run.
 TEST(Walk, APastHoursValueIsEditedAndKept) {
-  Desk d;
+  Rig d;
   d.bind(d.st.start());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   d.hands->click(ws.FrmMain.Command4);
   ASSERT_TRUE(d.up(ws.FrmWP));
   d.hands->type(ws.FrmWP.Text3, "12.5");  // the temperature of 06 UTC
@@ -213,9 +215,9 @@ TEST(Walk, APastHoursValueIsEditedAndKept) {
 
 // The help screen tells its text on a read-only page and goes back to the start.
 TEST(Walk, HelpShowsItsTextAndGoesBack) {
-  Desk d;
+  Rig d;
   d.bind(d.st.start());
-  Workstation& ws = *d.ws;
+  Desk& ws = *d.ws;
   d.hands->click(ws.FrmMain.Command9);
   ASSERT_TRUE(d.up(ws.FrmHelp));
   auto* page = qobject_cast<QPlainTextEdit*>(d.binder->widget(ws.FrmHelp.Text1));

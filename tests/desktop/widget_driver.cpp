@@ -9,7 +9,7 @@
 #include <QtTest/QTest>
 #include <stdexcept>
 
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace obsdesk::test {
 
@@ -86,7 +86,7 @@ QString WidgetDriver::shown_text(Control& c) {
 }
 
 void WidgetDriver::open_synmet_06() {
-  Workstation& ws = binder_.workstation();
+  Desk& ws = binder_.workstation();
   FrmKashf& k = ws.FrmKashf;
   click(ws.FrmMain.Command2);
   click(ws.FrmDisplayKashf.newW);

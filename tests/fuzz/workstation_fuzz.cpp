@@ -24,7 +24,7 @@
 #include "bank/sqlite.h"
 #include "coders/syntax_gate.h"
 #include "cli/runner.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace fs = std::filesystem;
 using namespace obsdesk;
@@ -80,7 +80,7 @@ std::string as_line(const std::vector<std::string>& words) {
 
 // One command, chosen by weight; controls are mostly taken from the screen the
 // observer is looking at, sometimes from anywhere.
-std::vector<std::string> next_command(Workstation& ws, std::mt19937_64& rng) {
+std::vector<std::string> next_command(Desk& ws, std::mt19937_64& rng) {
   std::vector<Control*> pool;
   Screen* active = ws.active_screen();
   if (active != nullptr && rng() % 5 != 0) pool = active->controls();
@@ -179,7 +179,7 @@ std::vector<std::vector<std::string>> base_report(const std::string& name) {
 
 // One box of the entry screen put to a random text, as a slip of the observer
 // on a report that was whole.
-std::vector<std::string> entry_slip(Workstation& ws, std::mt19937_64& rng) {
+std::vector<std::string> entry_slip(Desk& ws, std::mt19937_64& rng) {
   std::vector<Control*> boxes;
   for (Control* c : ws.FrmKashf.controls())
     if (c->kind == Kind::TextBox && c->reachable()) boxes.push_back(c);
@@ -198,7 +198,7 @@ std::set<std::string>& coded_seen() {
   return seen;
 }
 
-bool coded_reports_sound(const Workstation& ws, std::string& why) {
+bool coded_reports_sound(const Desk& ws, std::string& why) {
   for (const std::string* line : {&ws.SynopLine1, &ws.MetarLine1, &ws.SpeciLine1})
     if (!line->empty()) coded_seen().insert(*line);
   std::optional<GateFault> f;
@@ -244,7 +244,7 @@ bool run_sequence(const Options& o, long k, const fs::path& root, long& events, 
         if (!perform(words)) return false;
     }
     for (int i = 0; i < o.per_sequence; ++i, ++events) {
-      Workstation* ws = runner.workstation();
+      Desk* ws = runner.workstation();
       if (ws == nullptr || ws->ended()) {
         if (!perform({"start"})) return false;
         continue;

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "core/record.h"
-#include "core/workstation.h"
+#include "screens/record.h"
+#include "station/workstation.h"
 #include "support/test_support.h"
 
 namespace obsdesk::test {
@@ -52,7 +52,7 @@ struct Entry {
   }
 
   Station s;
-  Workstation& ws;
+  Desk& ws;
   FrmKashf& k;
   FrmOption& st;
 };

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "core/record.h"
+#include "screens/record.h"
 #include "core/textnum.h"
 #include "physics/barometer.h"
 #include "physics/psychrometry.h"

@@ -1,11 +1,11 @@
 // The pressure tendency dialog: the traces that fit, a choice by picture or by
 // digit, the amount from QFE and the pressure of three hours before.
-#include "physics/tendency.h"
+#include "checks/tendency.h"
 
 #include <gtest/gtest.h>
 
-#include "core/record.h"
-#include "core/seams.h"
+#include "screens/record.h"
+#include "screens/handoffs.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -44,7 +44,7 @@ struct Dialog {
     return out;
   }
   test::Station s;
-  Workstation& ws;
+  Desk& ws;
   FrmKashf& k;
   FrmNTF& d;
 };

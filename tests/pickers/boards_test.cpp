@@ -5,11 +5,11 @@
 
 #include <string>
 
-#include "core/record.h"
-#include "core/seams.h"
-#include "pickers/board_tables.h"
+#include "screens/record.h"
+#include "screens/handoffs.h"
+#include "screens/board_tables.h"
 #include "pickers/pickers.h"
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -39,7 +39,7 @@ TEST(PastHourWeather, WritesTheBoxAndTheUnblockedPanel) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.FrmDisplayKashf.TXTWW1.text = c.present;
     ws.FrmCode.Text2.text = "old";
     ws.WeatherBoxSelect = 7;
@@ -67,7 +67,7 @@ TEST(PastWeather, W2MayNotOutrankW1AndTheGroupFollows) {
   const Case cases[] = {{3, 3, true}, {3, 0, true}, {9, 9, true}, {0, 1, false}};
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     FrmKashf& k = ws.FrmKashf;
     ws.FrmDisplayKashf.TXTWW4.text = "63";
     k.Frame17.visible = true;
@@ -128,7 +128,7 @@ TEST(SkyLetters, CloudAmountAndSelectorOpenTheButtons) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     for (auto& b : ws.FrmBCO.letters) b->enabled = c.all_open_before;
     ws.FrmKashf.Text5.text = c.amount;
     ws.WeatherBoxSelect = c.select;
@@ -138,7 +138,7 @@ TEST(SkyLetters, CloudAmountAndSelectorOpenTheButtons) {
   }
   // The same table holds on the "y" board.
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.FrmKashf.Text5.text = "8";
   ws.WeatherBoxSelect = 1;
   open_sky_board(ws, ws.FrmBCOY);
@@ -160,7 +160,7 @@ TEST(SkyLetters, TheLetterGoesToTheBoxOfTheSelector) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.FrmKashf.Text5.text = "9";
     ws.FrmKashf.TWW.text = c.tww;
     ws.WeatherBoxSelect = c.select;
@@ -175,7 +175,7 @@ TEST(SkyLetters, TheLetterGoesToTheBoxOfTheSelector) {
   }
   // Nothing to write to: the board just hides.
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.WeatherBoxSelect = 0;
   open_sky_board(ws, ws.FrmBCO);
   ws.click(*ws.FrmBCO.letter("o"));
@@ -185,7 +185,7 @@ TEST(SkyLetters, TheLetterGoesToTheBoxOfTheSelector) {
 
 TEST(SkyLetters, KeyboardAndTheRemarksStep) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   ws.FrmKashf.Text5.text = "9";
   b.TXTWW3.text = "RA";
@@ -230,7 +230,7 @@ TEST(GroundState, ButtonsWriteTheGroupsOfSectionThree) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.FrmKashf.Text68.text = c.tground;
     ws.GroundSign = "1";
     ws.GroundTemp = "03";
@@ -247,7 +247,7 @@ TEST(GroundState, ButtonsWriteTheGroupsOfSectionThree) {
   }
   // A digit typed on the board picks the ground with snow.
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.FrmKashf.Text68.text = "/";
   open_ground_picker(ws);
   ws.type(ws.FrmZamin.Text1, "7");
@@ -261,7 +261,7 @@ TEST(GroundState, ButtonsWriteTheGroupsOfSectionThree) {
 
 TEST(IrIx, TypedAndChosen) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmIRIX& f = ws.FrmIRIX;
   open_irix_picker(ws, false);
   ASSERT_TRUE(f.visible);
@@ -306,7 +306,7 @@ TEST(IrIx, TypedAndChosen) {
 
 TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   k.Frame12.visible = k.Frame17.visible = true;
   k.Text4.text = "3000";
@@ -354,7 +354,7 @@ TEST(EntryPictures, OpenTheirBoardsAndEmptyWhenFilled) {
 
 TEST(EntryPictures, TheIrIxBoxOpensItsBoard) {
   test::Station s;
-  Workstation& ws = s.open_entry();
+  Desk& ws = s.open_entry();
   FrmKashf& k = ws.FrmKashf;
   ws.focus_now(k.Combo5);
   ws.choose(k.Combo5, kSynop);
@@ -376,7 +376,7 @@ TEST(EntryPictures, ADoubleClickOffersTheSkyLetters) {
   };
   for (const auto& [image, box] : cases) {
     test::Station s;
-    Workstation& ws = s.open_entry();
+    Desk& ws = s.open_entry();
     FrmKashf& k = ws.FrmKashf;
     k.Frame12.visible = k.Frame17.visible = true;
     k.Text5.text = "9";

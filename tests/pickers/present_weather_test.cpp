@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "core/seams.h"
+#include "screens/handoffs.h"
 #include "core/textnum.h"
-#include "pickers/weather_tables.h"
+#include "screens/weather_tables.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -19,7 +19,7 @@ struct Observation {
 };
 
 // The boxes are written straight, so that no entry rule of the screen runs.
-void observe(Workstation& ws, const Observation& o) {
+void observe(Desk& ws, const Observation& o) {
   FrmKashf& k = ws.FrmKashf;
   k.Text5.text = o.n;
   k.Text31.text = o.rh;
@@ -44,7 +44,7 @@ Observation permissive(int ww) {
   return o;
 }
 
-void clear_boxes(Workstation& ws) {
+void clear_boxes(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   for (Control* c : Controls{&b.TXTWW1, &b.TXTWW3, &b.TXTWW4, &ws.FrmKashf.Image1, &ws.FrmKashf.Image10,
                              &ws.FrmKashf.Image8, &ws.FrmCode.Text4, &ws.FrmCode.Text47})
@@ -53,7 +53,7 @@ void clear_boxes(Workstation& ws) {
 }
 
 // Opens the board for a box, as the picture does, and clicks one code.
-void pick(Workstation& ws, int select, int ww) {
+void pick(Desk& ws, int select, int ww) {
   ws.WeatherBoxSelect = select;
   ws.show(ws.FrmFeali);
   ws.click(*ws.FrmFeali.buttons.P[ww]);
@@ -63,7 +63,7 @@ std::string two(int ww) { return std::string(present_weather_picture(ww).substr(
 
 TEST(PresentWeather, EveryCodeWritesItsRowOnEachBox) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   FrmKashf& k = ws.FrmKashf;
   for (int ww = 0; ww < 100; ++ww) {
@@ -115,7 +115,7 @@ TEST(PresentWeather, EveryCodeWritesItsRowOnEachBox) {
 
 TEST(PresentWeather, KeptTextsOfSomeCodes) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   observe(ws, Observation{});
   pick(ws, 1, 80);
   EXPECT_EQ(ws.FrmDisplayKashf.TXTWW4.text, "");
@@ -166,7 +166,7 @@ TEST(PresentWeather, EachTestRefusesWithItsWords) {
   };
   for (const Case& c : cases) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     Observation o;
     c.spoil(o);
     observe(ws, o);
@@ -182,7 +182,7 @@ TEST(PresentWeather, EachTestRefusesWithItsWords) {
 TEST(PresentWeather, AnObscuredSkyAsksForTheCloudItCannotSee) {
   for (bool yes : {true, false}) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     Observation o;
     o.n = "9";
     o.low1 = o.low2 = o.low3 = "       0";
@@ -200,7 +200,7 @@ TEST(PresentWeather, AnObscuredSkyAsksForTheCloudItCannotSee) {
 
 TEST(PresentWeather, VisibilityMarks) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   Observation o;
   o.vis = "8000";
@@ -239,7 +239,7 @@ TEST(PresentWeather, VisibilityMarks) {
 
 TEST(PresentWeather, TheHintNamesBothCodes) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   ws.WeatherBoxSelect = 1;
   ws.show(ws.FrmFeali);
   ws.click(*ws.FrmFeali.buttons.P[63]);  // the pointer passes over it first; no cloud: refused
@@ -252,7 +252,7 @@ TEST(PresentWeather, TheHintNamesBothCodes) {
 
 TEST(PresentWeather, CancelAndVicinity) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   ws.FrmDisplayKashf.TXTWW3.text = "RA";

@@ -39,20 +39,20 @@ int rows(const Station& s) {
 }
 
 // Start, then "Charactris Praimery Station" through the wait screen.
-Workstation& open_settings(Station& s) {
-  Workstation& ws = s.start();
+Desk& open_settings(Station& s) {
+  Desk& ws = s.start();
   ws.click(ws.FrmMain.Command10);
   return ws;
 }
 
-void menu(Workstation& ws, Control& command) {
+void menu(Desk& ws, Control& command) {
   ws.click(ws.FrmOption.Label45);
   ws.click(command);
 }
 
 TEST(StationSettings, OpensReadOnlyWithItsConstants) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   FrmOption& o = ws.FrmOption;
   for (Control* c : o.entry_boxes()) EXPECT_TRUE(c->locked) << c->name;
   EXPECT_EQ(o.entry_boxes().size(), 60u);
@@ -72,7 +72,7 @@ TEST(StationSettings, OpensReadOnlyWithItsConstants) {
 
 TEST(StationSettings, NewRowWalkedWithEnterAndSaved) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   FrmOption& o = ws.FrmOption;
   menu(ws, o.nnew);
   EXPECT_FALSE(o.Frame4.visible);
@@ -114,7 +114,7 @@ TEST(StationSettings, NewRowWalkedWithEnterAndSaved) {
 
 TEST(StationSettings, StepsStopAtBothEndsWithAMessage) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   FrmOption& o = ws.FrmOption;
   add_station(s, "TABRIZ AIRPORT", "OITT", "40706");
   add_station(s, "BUSHEHR AIRPORT", "OIBB", "40858");
@@ -141,7 +141,7 @@ TEST(StationSettings, StepsStopAtBothEndsWithAMessage) {
 
 TEST(StationSettings, EditWritesTheChangedBoxesWhenTheRowIsLeft) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   FrmOption& o = ws.FrmOption;
   add_station(s, "TABRIZ AIRPORT", "OITT", "40706", "abc");  // a limit that is no number
   menu(ws, o.EDITT);
@@ -164,7 +164,7 @@ TEST(StationSettings, TheSharedAbsoluteMaximumKeepsTheChangedBox) {
   } cases[] = {{"txtmaxm5", "70"}, {"txtmaxm6", "71"}};
   for (const auto& c : cases) {
     Station s;
-    Workstation& ws = open_settings(s);
+    Desk& ws = open_settings(s);
     FrmOption& o = ws.FrmOption;
     EXPECT_EQ(o.txtmaxm5.text, "65");
     EXPECT_EQ(o.txtmaxm6.text, "65");
@@ -186,7 +186,7 @@ TEST(StationSettings, TheSharedAbsoluteMaximumKeepsTheChangedBox) {
 
 TEST(StationSettings, TheBarometerOptionsWriteTheirPair) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   FrmOption& o = ws.FrmOption;
   ws.click(o.OptPnegar);
   EXPECT_EQ(o.txtPnegar.text, "1");
@@ -204,7 +204,7 @@ TEST(StationSettings, TheBarometerOptionsWriteTheirPair) {
 // program ends with its reason on the message panel, the one screen left up.
 TEST(StationSettings, UpdateFillsOnlyTheEmptyObservers) {
   Station s;
-  Workstation& ws = open_settings(s);
+  Desk& ws = open_settings(s);
   menu(ws, ws.FrmOption.UPDATE);
   EXPECT_TRUE(ws.ended());
   EXPECT_TRUE(ws.FrmERR.visible);
@@ -228,7 +228,7 @@ TEST(StationSettings, SearchFindsTheChosenCatalogueNameAnywhereInTheName) {
   };
   for (const auto& c : cases) {
     Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     add_station(s, "TABRIZ AIRPORT", "OITT", "40706");
     add_station(s, "SARAB", "OIXX", "40700");
     add_station(s, "KHAN SARAB", "OIXY", "40701");

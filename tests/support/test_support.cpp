@@ -8,7 +8,8 @@
 
 #include "bank/bank.h"
 #include "bank/sqlite.h"
-#include "core/program.h"
+#include "screens/bank_tables.h"
+#include "station/program.h"
 
 namespace obsdesk::test {
 
@@ -61,24 +62,24 @@ Station::Station(DateTime now, Root holds) : clock(now) {
   ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
 }
 
-Workstation& Station::start() {
+Desk& Station::start() {
   start_program(*ws);
   return *ws;
 }
 
-Workstation& Station::restart() {
+Desk& Station::restart() {
   ws.reset();
   ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
   return start();
 }
 
-Workstation& Station::open_browser() {
+Desk& Station::open_browser() {
   start();
   ws->click(ws->FrmMain.Command2);
   return *ws;
 }
 
-Workstation& Station::open_entry() {
+Desk& Station::open_entry() {
   open_browser();
   ws->show(ws->FrmKashf);
   return *ws;

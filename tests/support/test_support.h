@@ -14,7 +14,7 @@
 #include <string>
 
 #include "core/services.h"
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 namespace obsdesk::test {
 
@@ -53,13 +53,13 @@ struct Station {
   MemoryClipboard clipboard;
   std::unique_ptr<Workstation> ws;
   std::filesystem::path root() const { return dir.path() / "bank"; }
-  Workstation& start();
+  Desk& start();
   // Start and "Run": the record browser.
-  Workstation& open_browser();
+  Desk& open_browser();
   // Start, "Run", and a new report opened on the entry screen.
-  Workstation& open_entry();
+  Desk& open_entry();
   // A fresh workstation on the same bank, started: the program run again.
-  Workstation& restart();
+  Desk& restart();
   Control& at(const std::string& qualified);
 };
 

@@ -8,14 +8,15 @@
 #include <string>
 #include <vector>
 
-#include "core/frm_kashf.h"
-#include "core/record.h"
-#include "physics/tendency.h"
-#include "pickers/board_tables.h"
-#include "pickers/weather_tables.h"
+#include "screens/frm_kashf.h"
+#include "screens/record.h"
+#include "checks/tendency.h"
+#include "screens/board_tables.h"
+#include "screens/weather_tables.h"
 #include "symbols/contact_sheet.h"
 #include "symbols/symbols.h"
 #include "symbols/xml_check.h"
+#include "screens/dialogs.h"
 
 namespace obsdesk {
 namespace {

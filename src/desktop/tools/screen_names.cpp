@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "core/workstation.h"
+#include "station/workstation.h"
 
 int main(int argc, char** argv) {
   using namespace obsdesk;

@@ -1,12 +1,12 @@
 // The station catalogue and the station picker.
-#include "core/catalogue/catalogue.h"
+#include "settings/catalogue.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <set>
 
-#include "core/catalogue/select_station.h"
+#include "settings/select_station.h"
 #include "support/test_support.h"
 
 namespace obsdesk {
@@ -58,7 +58,7 @@ TEST(Catalogue, AProvinceTextFindsItsGroupWhole) {
 
 TEST(Catalogue, ChoosingAProvinceOnTheStartScreenSetsTheOneInUse) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmMain& m = ws.FrmMain;
   EXPECT_EQ(m.ComboOstan.text, "GUILAN");
   EXPECT_EQ(m.ComboOstan.items, provinces());
@@ -74,8 +74,8 @@ struct Picked {
   std::string text;
 };
 
-void open_picker(Workstation& ws, const std::string& start, Picked& out) {
-  select_station(ws, start, [&out](Workstation&, const std::string& t) {
+void open_picker(Desk& ws, const std::string& start, Picked& out) {
+  select_station(ws, start, [&out](Desk&, const std::string& t) {
     out.called = true;
     out.text = t;
   });
@@ -83,7 +83,7 @@ void open_picker(Workstation& ws, const std::string& start, Picked& out) {
 
 TEST(Catalogue, ThePickerReturnsTheChosenNameAsItStands) {
   test::Station s;
-  Workstation& ws = s.start();
+  Desk& ws = s.start();
   FrmSelectStation& d = ws.FrmSelectStation;
   ws.click(ws.FrmMain.Command1);
   ws.choose(ws.FrmMain.ComboOstan, "AZAR BAYJAN_SHARGHI");
@@ -117,7 +117,7 @@ TEST(Catalogue, ThePickerReturnsTheChosenNameAsItStands) {
 TEST(Catalogue, AProvinceWithNoGroupGivesAnEmptyPicker) {
   for (const char* province : {"", "NOWHERE"}) {
     test::Station s;
-    Workstation& ws = s.start();
+    Desk& ws = s.start();
     ws.FrmMain.LabOstan.text = province;
     Picked got;
     open_picker(ws, "", got);
