@@ -46,7 +46,7 @@ TEST(BankStart, AFirstStartStoppedAtAnyStepLeavesNoBankOrAWholeOne) {
   test::TempDir dir;
   KillAt count(0);
   {
-    test::Station s;
+    test::Station s(test::Root::Empty);
     s.ws->file_seam = &count;
     s.start();
   }
