@@ -171,7 +171,7 @@ void synop_date_step(Desk& ws, StationKind kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
   // The hour of the clock when the date boxes were filled: the date they hold is
-  // the one this step corrects.
+  // the one the report's date is moved on from.
   const int hour = ws.date_boxes_hour >= 0 ? ws.date_boxes_hour : ws.now().hour;
   if (station_kind(ws) != kind || hour != clock_hour) return;
   bool hour_matches = false;

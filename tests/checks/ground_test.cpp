@@ -47,7 +47,8 @@ TEST(Ground, MinimumFiguresForTheGroundGroup) {
 }
 
 TEST(Ground, SnowDepthFigures) {
-  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"5", "005"}, {"2.5", "002"}, {"998", "998"}, {"999", "999"}})
+  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"/", "997"}, {"//", "997"}, {"5", "005"}, {"2.5", "002"},
+                           {"998", "998"}, {"999", "999"}})
     EXPECT_EQ(snow_depth_figures(text), sss) << text;
 }
 
