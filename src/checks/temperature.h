@@ -26,7 +26,7 @@ struct GroundMinimum {
 std::optional<GroundMinimum> ground_minimum(std::string_view text, NumberReader read = val);
 
 // sss of the total snow for 4E'sss: whole centimetres in three figures, 0 as
-// "997"; "" for an empty box. A text that is no number ("/", "//") reads as 0
+// "997"; "" for an empty box. Read leniently, a text that is no number ("/", "//") reads as 0
 // and so gives "997" too.
 std::string snow_depth_figures(std::string_view text, NumberReader read = val);
 

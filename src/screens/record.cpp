@@ -160,6 +160,20 @@ bool is_metar_kind(ReportKind kind) {
   return kind == ReportKind::Metar || kind == ReportKind::Metar30 || kind == ReportKind::Speci;
 }
 
+const std::vector<std::string>& pan_kinds() {
+  static const std::vector<std::string> items = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ",
+                                                 "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
+                                                 "(Sunken) GGI - 3000  طشت تبخير سنج مدل ",
+                                                 "تانك (مخزن) 20 متر مربعي",
+                                                 "ساير وسائل اندازه گيري",
+                                                 "برنج",
+                                                 "گندم",
+                                                 "(Maize) ذرت",
+                                                 "(Sorghum) ذرت خوشه اي",
+                                                 "ديگر محصولات"};
+  return items;
+}
+
 const std::vector<std::string>& low_cloud_types() {
   static const std::vector<std::string> items = {"       0", "CU     1", "CU     2", "CB     3",
                                                  "SC     4", "SC     5", "ST,FS  6", "FS,FCU 7",

@@ -61,6 +61,11 @@ const std::vector<std::string>& visibility_directions();
 inline constexpr std::string_view kLayerHead = "NLC";
 const std::vector<std::string>& layer_list();
 
+// The evaporation pans and crops of the Station profile's Combo2, spelt as the
+// list shows them (two with a closing blank); an item's place in the list is
+// the iE figure of 5EEEiE.
+const std::vector<std::string>& pan_kinds();
+
 // Station kinds of the Station profile.
 inline constexpr std::string_view kStation12 = "ايستگاه 12 ساعته";
 inline constexpr std::string_view kStation18 = "ايستگاه 18 ساعته";
