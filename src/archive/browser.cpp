@@ -161,23 +161,23 @@ void TXTYYMMDDTT_change(Desk& ws) {
 
 void TXTSEL_change(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
-  const std::string& kind = b.TXTSEL.text;
+  const ReportKind kind = report_kind_of(b.TXTSEL.text);
   const bool metar_like = is_metar_kind(kind);
   if (metar_like) {
     b.Frame12.visible = true;
     b.Frame17.visible = false;
-  } else if (kind == kSynop) {
+  } else if (kind == ReportKind::Synop) {
     b.Frame12.visible = false;
     b.Frame17.visible = true;
-  } else if (kind == kSynMet) {
+  } else if (kind == ReportKind::SynMet) {
     b.Frame12.visible = b.Frame17.visible = true;
   }
-  b.Frame12.text = kind == kSpeci ? "SPECI" : "METAR";
-  const bool timed = kind == kSpeci || kind == kMetar30;
+  b.Frame12.text = kind == ReportKind::Speci ? "SPECI" : "METAR";
+  const bool timed = kind == ReportKind::Speci || kind == ReportKind::Metar30;
   b.txt1.visible = timed;
   b.Text1.visible = !timed;
-  b.TXTSPE.visible = kind == kSpeci;
-  b.TXTMET.visible = kind != kSpeci;
+  b.TXTSPE.visible = kind == ReportKind::Speci;
+  b.TXTMET.visible = kind != ReportKind::Speci;
   for (Control* c : Controls{&b.Frame16, &b.Label42, &b.txtmin}) c->visible = !metar_like;
 }
 

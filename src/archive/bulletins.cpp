@@ -57,7 +57,7 @@ Bulletin speci(const BulletinFields& f) {
 
 }  // namespace
 
-std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields& f) {
+std::vector<Bulletin> bulletins_for(ReportKind kind, const BulletinFields& f) {
   std::vector<Bulletin> out;
   // A report that coded no text of a form sends no bulletin of it: its lines are
   // empty from the moment the report opened or its coder failed.
@@ -65,9 +65,9 @@ std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields&
     const std::string heading = synop_heading(f.hour);
     if (!heading.empty()) out.push_back(synop(f, heading));
   }
-  if ((kind == kMetar || kind == kSynMet) && !f.metar1.empty()) out.push_back(metar(f));
-  if (kind == kMetar30 && !f.metar1.empty()) out.push_back(metar30(f));
-  if (kind == kSpeci && !f.speci1.empty()) out.push_back(speci(f));
+  if ((kind == ReportKind::Metar || kind == ReportKind::SynMet) && !f.metar1.empty()) out.push_back(metar(f));
+  if (kind == ReportKind::Metar30 && !f.metar1.empty()) out.push_back(metar30(f));
+  if (kind == ReportKind::Speci && !f.speci1.empty()) out.push_back(speci(f));
   return out;
 }
 

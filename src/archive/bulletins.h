@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "screens/record.h"
+
 namespace obsdesk {
 
 class Desk;
@@ -32,7 +34,7 @@ struct Bulletin {
 
 // The bulletins a report of this kind writes, in the order they are written: a
 // SYNOP at an hour that is no main hour writes none, "SYN & MET" writes both.
-std::vector<Bulletin> bulletins_for(std::string_view kind, const BulletinFields& f);
+std::vector<Bulletin> bulletins_for(ReportKind kind, const BulletinFields& f);
 
 // The fields from the browser, the station profile, the code panel and the
 // report lines.

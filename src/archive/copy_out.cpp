@@ -63,11 +63,11 @@ void Command1_click(Desk& ws) {
 // Opens with an empty clipboard and the buttons of the report kind just saved.
 void open_copy_out(Desk& ws) {
   FrmPol& p = ws.FrmPol;
-  const std::string& kind = ws.FrmDisplayKashf.TXTSEL.text;
+  const ReportKind kind = report_kind_of(ws.FrmDisplayKashf.TXTSEL.text);
   ws.clipboard().clear();
-  p.Command2.enabled = kind == kMetar || kind == kMetar30 || kind == kSynMet;
-  p.Command3.enabled = kind == kSynop || kind == kSynMet;
-  p.Command4.enabled = kind == kSpeci;
+  p.Command2.enabled = kind == ReportKind::Metar || kind == ReportKind::Metar30 || kind == ReportKind::SynMet;
+  p.Command3.enabled = is_synop_kind(kind);
+  p.Command4.enabled = kind == ReportKind::Speci;
   p.Command6.enabled = p.Command3.enabled;
   ws.show(p);
 }

@@ -114,12 +114,12 @@ void scdata_lines(Desk& ws, SaveJournal& journal) {
 
   const std::string s = ws.FrmCode.TXTSCDATA.text;
   const std::string g = ws.FrmCode.TXTgolbad.text;
-  const std::string kind = k.Combo5.text;
+  const ReportKind kind = report_kind(ws);
   auto to = [&](const std::string& name, const std::string& line) {
     journal.append(bank_file(ws, name), line_bytes(line));
   };
 
-  if (twelve_hour_station(ws) && kind == kSpeci) return;
+  if (twelve_hour_station(ws) && kind == ReportKind::Speci) return;
   if (twelve_hour_night(ws)) {
     // No daily record at these hours of a 12-hour station: no IT line.
     to(n.monthG, g);
@@ -396,7 +396,7 @@ void save_click(Desk& ws) {
     // Everything the save writes, listed before anything is written.
     SaveJournal journal(seam);
     ws.set(b.LabBUFR, "No BUFR message");
-    const auto bulletins = bulletins_for(b.TXTSEL.text, bulletin_fields(ws));
+    const auto bulletins = bulletins_for(report_kind_of(b.TXTSEL.text), bulletin_fields(ws));
     add_bulletins(ws, journal, bulletins);
     const bool bufr = add_bufr(ws, journal, bulletins);
     month_end(ws, journal, "\\TEXT\\SCDATA\\", "S");

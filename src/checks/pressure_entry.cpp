@@ -58,7 +58,7 @@ void tell(Desk& ws, const PressureReport& report) {
 
 void publish_all(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  const PublishedPressure p = publish(ws.pressure, k.Combo5.text);
+  const PublishedPressure p = publish(ws.pressure, report_kind(ws));
   ws.set(k.Text31, p.RH);
   ws.set(k.Text15, p.TC);
   ws.set(k.Text18, p.QFE);
@@ -121,7 +121,7 @@ Reading pressure_limits(Desk& ws, Control& box, double v, bool lower_too) {
 void reading_key_enter(Desk& ws, Control& box) {
   FrmKashf& k = ws.FrmKashf;
   if (len(box.text) < 3) return;
-  if (is_synop_kind(k.Combo5.text)) {
+  if (is_synop_kind(report_kind(ws))) {
     ws.focus(k.Text38);
     ws.post(open_tendency_dialog);  // once the focus stands on Text38
     return;

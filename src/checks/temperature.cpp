@@ -64,7 +64,7 @@ void Text27_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
   // A METAR continues the last main report three hours on.
-  if (k.Combo5.text == kMetar) {
+  if (report_kind(ws) == ReportKind::Metar) {
     const double hour = val(k.Text1.text);
     const bool follows = m.txtutcpast.text == "21" ? hour == 0 : hour == val(m.txtutcpast.text) + 3;
     if (!follows) {
@@ -108,7 +108,8 @@ void Text27_key_enter(Desk& ws) {
     ws.focus(k.Text18);
     return;
   }
-  const bool timed = k.Combo5.text == kMetar30 || k.Combo5.text == kSpeci;
+  const ReportKind kind = report_kind(ws);
+  const bool timed = kind == ReportKind::Metar30 || kind == ReportKind::Speci;
   if (!(timed && k.txt1.text.empty()) && !tdry.text.empty() && val(tdry.text) < -2 && humidity_instead(ws)) return;
   if (!tdry.text.empty()) ws.focus(k.Text28);
 }
@@ -133,7 +134,7 @@ void Text27_leave(Desk& ws) {
   // The day's table of temperatures that this report writes back.
   const int index = k.Text1.text.empty() ? -1 : main_hour_index(int_val(k.Text1.text));
   const bool keeps_table =
-      k.Combo5.text == kSynMet || (k.Combo5.text == kSynop && twelve_hour_station(ws));
+      report_kind(ws) == ReportKind::SynMet || (report_kind(ws) == ReportKind::Synop && twelve_hour_station(ws));
   if (keeps_table && index >= 0) {
     for (int i = 0; i < 8; ++i) {
       const std::size_t j = static_cast<std::size_t>(i);

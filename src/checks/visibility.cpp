@@ -95,7 +95,7 @@ void Text4_leave(Desk& ws) {
 void Text4_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text4.text.empty()) return;
-  ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text5) : k.TxtVM);
+  ws.focus(report_kind(ws) == ReportKind::Synop ? static_cast<Control&>(k.Text5) : k.TxtVM);
 }
 
 // The character rule of the minimum and the maximum, with the borrowed words.
@@ -133,7 +133,7 @@ void TxtVM_leave(Desk& ws) {
 
 void TxtVM_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text5) : k.CMbMAX);
+  ws.focus(report_kind(ws) == ReportKind::Synop ? static_cast<Control&>(k.Text5) : k.CMbMAX);
 }
 
 void Text26_change(Desk& ws) {

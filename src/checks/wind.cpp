@@ -99,7 +99,7 @@ void Text2_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text2.text.empty()) return;
   // The limits of a variable direction are not reported in a SYNOP.
-  ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text3) : k.Text40);
+  ws.focus(report_kind(ws) == ReportKind::Synop ? static_cast<Control&>(k.Text3) : k.Text40);
 }
 
 // The wind group of the code panel: direction, speed, gust, in knots' form.
@@ -172,7 +172,7 @@ void Text3_leave(Desk& ws) {
 void Text3_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text3.text.empty()) return;
-  ws.focus(report_kind(ws) == kSynop ? static_cast<Control&>(k.Text4) : k.TXTGUSTY);
+  ws.focus(report_kind(ws) == ReportKind::Synop ? static_cast<Control&>(k.Text4) : k.TXTGUSTY);
 }
 
 // The wind texts of 21 UTC are five characters or nothing (five blanks).

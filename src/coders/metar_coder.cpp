@@ -93,7 +93,7 @@ void clear_panel(Desk& ws, MetarForm form) {
 void metar_time_step(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
-  if (k.Combo5.text == kMetar30) {
+  if (report_kind(ws) == ReportKind::Metar30) {
     coder_number(k.txt1.text, "txt1");
     ws.set(p.TXTUTC, k.txt1.text);
     ws.set(p.TXTCCCC, ws.FrmOption.TXTCOD.text);

@@ -10,6 +10,7 @@
 #include "screens/record.h"
 #include "core/textnum.h"
 #include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -166,13 +167,13 @@ std::string join_synop(const std::vector<std::string>& boxes, std::string_view q
   return text + "=";
 }
 
-void synop_date_step(Desk& ws, std::string_view station_kind, int clock_hour,
+void synop_date_step(Desk& ws, StationKind kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
   // The hour of the clock when the date boxes were filled: the date they hold is
   // the one the report's date is moved on from.
   const int hour = ws.date_boxes_hour >= 0 ? ws.date_boxes_hour : ws.now().hour;
-  if (ws.FrmOption.Combo1.text != station_kind || hour != clock_hour) return;
+  if (station_kind(ws) != kind || hour != clock_hour) return;
   bool hour_matches = false;
   for (std::string_view h : hours) hour_matches = hour_matches || k.Text1.text == h;
   if (!hour_matches) return;
@@ -273,13 +274,13 @@ bool code_synop(Desk& ws) {
   ws.set(p.Text82, pressure_group("4", k.Text21.text));
   if (!k.Text25.text.empty()) ws.set(p.Text83, tendency_group(k.Text38.text, k.Text25.text));
   if (k.txtpast6.text.empty()) ws.set(k.txtpast6, "0");
-  set_group(ws, p.Text84, rain_group(k.txtpast6.text, hour, ws.FrmOption.Combo1.text));
+  set_group(ws, p.Text84, rain_group(k.txtpast6.text, hour, station_kind(ws)));
 
   // Sections 3 and 5.
   cloud_groups(ws);
   ws.set(p.Text103, humidity_box(k.Text31.text));
   if (!section3_and_5(ws, hour)) return false;
-  synop_date_step(ws, kStation24, 23, {"00"});
+  synop_date_step(ws, StationKind::Hours24, 23, {"00"});
   synop_copies(ws);
 
   // The report, its two lines, the archive lines.

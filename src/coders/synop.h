@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "screens/record.h"
+
 namespace obsdesk {
 
 class Desk;
@@ -38,7 +40,7 @@ void run_synop1218(Desk& ws);
 std::string join_synop(const std::vector<std::string>& boxes, std::string_view qnt);
 
 // Pieces of the run, shared by the two buttons.
-void synop_date_step(Desk& ws, std::string_view station_kind, int clock_hour,
+void synop_date_step(Desk& ws, StationKind kind, int clock_hour,
                      std::initializer_list<std::string_view> hours);
 void synop_copies(Desk& ws);
 // The report's hour and both dates into the panel's head.

@@ -14,7 +14,7 @@ void run_synop1218(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmCode& p = ws.FrmCode;
   load_code_panel(ws);
-  synop_date_step(ws, kStation12, 15, {"21", "18"});
+  synop_date_step(ws, StationKind::Hours12, 15, {"21", "18"});
   synop_hour_and_dates(ws);
 
   const std::string prefix = synop_line_prefix(ws);

@@ -107,12 +107,15 @@ std::string tendency_group(std::string_view characteristic, std::string_view amo
   return "5" + std::string(characteristic) + pad_left(num(tenfold(coder_number(amount))), 3);
 }
 
-std::string rain_period_figure(std::string_view hour, std::string_view station_kind) {
+std::string rain_period_figure(std::string_view hour, StationKind station_kind) {
   if (hour != "06") return "1";
-  if (station_kind == kStation24) return "1";
-  if (station_kind == kStation18) return "2";
-  if (station_kind == kStation12) return "3";
-  if (station_kind == kStation6) return "4";
+  switch (station_kind) {
+    case StationKind::Hours24: return "1";
+    case StationKind::Hours18: return "2";
+    case StationKind::Hours12: return "3";
+    case StationKind::Hours6: return "4";
+    case StationKind::None: break;
+  }
   return "";
 }
 
@@ -130,7 +133,7 @@ double round_rain_text(std::string_view text) {
 }
 
 // 6RRRtR
-std::optional<std::string> rain_group(std::string_view rain, std::string_view hour, std::string_view station_kind) {
+std::optional<std::string> rain_group(std::string_view rain, std::string_view hour, StationKind station_kind) {
   const std::string tr = rain_period_figure(hour, station_kind);
   if (rain == "TR") return "6990" + tr;
   if (rain == "/") return is_main_hour(hour) ? std::optional<std::string>("6///" + tr) : std::nullopt;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "coders/coder_common.h"
+#include "screens/record.h"
 
 #include <optional>
 #include <string>
@@ -45,7 +46,7 @@ std::string pressure_group(std::string_view lead, std::string_view hpa);
 std::string tendency_group(std::string_view characteristic, std::string_view amount);
 
 // tR of 6RRRtR by hour and station kind.
-std::string rain_period_figure(std::string_view hour, std::string_view station_kind);
+std::string rain_period_figure(std::string_view hour, StationKind station_kind);
 
 // Halves rounded upward as the rain group reads them from the text: an even
 // figure before a point followed by "5" gets 0.1 first; no point, or an integer
@@ -53,7 +54,7 @@ std::string rain_period_figure(std::string_view hour, std::string_view station_k
 double round_rain_text(std::string_view text);
 
 // 6RRRtR from the six-hour rain text (already "0" when it was empty).
-std::optional<std::string> rain_group(std::string_view rain, std::string_view hour, std::string_view station_kind);
+std::optional<std::string> rain_group(std::string_view rain, std::string_view hour, StationKind station_kind);
 
 // 8NhCLCMCH. tp is TP, low_type Combo4, middle/high the type lists, valuem VALUEM.
 std::string cloud_group(std::string_view tp, std::string_view low_type, std::string_view middle_type,

@@ -4,6 +4,7 @@
 #include "coders/coder_common.h"
 #include "coders/synop_groups.h"
 #include "core/textnum.h"
+#include "screens/record.h"
 
 namespace obsdesk {
 
@@ -248,22 +249,12 @@ std::string snow_group(std::string_view ground_code, std::string_view snow) {
 }
 
 std::string pan_figure(std::string_view pan_kind) {
-  static constexpr const char* kKinds[] = {
-      "USA طشت تبخير سنج باز  (بدون پوشش) مدل",
-      "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
-      "(Sunken) GGI - 3000  طشت تبخير سنج مدل",
-      "تانك (مخزن) 20 متر مربعي",
-      "ساير وسائل اندازه گيري",
-      "برنج",
-      "گندم",
-      "(Maize) ذرت",
-      "(Sorghum) ذرت خوشه اي",
-      "ديگر محصولات",
-  };
-  // The profile's list writes some kinds with a closing blank: compare without it.
+  // Some items end in a blank, and a kind read back from the bank may have lost
+  // it: compare both without blanks around them.
   const std::string kind = trim(pan_kind);
-  for (int i = 0; i < 10; ++i)
-    if (kind == kKinds[i]) return std::to_string(i);
+  const auto& kinds = pan_kinds();
+  for (std::size_t i = 0; i < kinds.size(); ++i)
+    if (kind == trim(kinds[i])) return std::to_string(i);
   return "";
 }
 

@@ -111,7 +111,7 @@ PressureReport DAMA_FASHAR(const PressureInputs& in, PressureResults& kept) {
   return run.report;
 }
 
-PublishedPressure publish(const PressureResults& kept, std::string_view report_kind) {
+PublishedPressure publish(const PressureResults& kept, ReportKind report_kind) {
   const bool metar = is_metar_kind(report_kind);
   PublishedPressure out;
   out.RH = round_text(kept.RHRAW, 1);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "physics/fault_math.h"
+#include "screens/record.h"
 #include "screens/shared_values.h"
 
 namespace obsdesk {
@@ -72,7 +73,7 @@ struct PublishedPressure {
 };
 inline constexpr const char* kNotForMetar = "+++++";
 
-PublishedPressure publish(const PressureResults& kept, std::string_view report_kind);
+PublishedPressure publish(const PressureResults& kept, ReportKind report_kind);
 
 // ---- The steps, shared with ModuleINVERS ----------------------------------------
 

@@ -11,7 +11,7 @@ void refuse(Desk& ws, Control& box, const std::string& words) {
   ws.focus(box);
 }
 
-const std::string& report_kind(const Desk& ws) { return ws.FrmKashf.Combo5.text; }
+ReportKind report_kind(const Desk& ws) { return report_kind_of(ws.FrmKashf.Combo5.text); }
 const std::string& hour_text(const Desk& ws) { return ws.FrmKashf.Text1.text; }
 
 bool hour_is(const Desk& ws, std::initializer_list<std::string_view> hours) {
@@ -20,20 +20,23 @@ bool hour_is(const Desk& ws, std::initializer_list<std::string_view> hours) {
   return false;
 }
 
-const std::string& station_kind(const Desk& ws) { return ws.FrmOption.Combo1.text; }
+StationKind station_kind(const Desk& ws) { return station_kind_of(ws.FrmOption.Combo1.text); }
 
-bool twelve_hour_station(const Desk& ws) { return station_kind(ws) == kStation12; }
+bool twelve_hour_station(const Desk& ws) { return station_kind(ws) == StationKind::Hours12; }
 
 bool twelve_hour_night(const Desk& ws) {
   return twelve_hour_station(ws) && hour_is(ws, {"18", "21", "00", "0"});
 }
 
 bool report_kind_coded(const Desk& ws) {
-  const std::string& kind = report_kind(ws);
-  if (kind == kSynop) return ws.SYNOP_coded != 0;
-  if (kind == kSynMet) return ws.SYNOP_coded != 0 && ws.METAR_coded != 0;
-  if (kind == kMetar || kind == kMetar30) return ws.METAR_coded != 0;
-  if (kind == kSpeci) return ws.SPECI_coded != 0;
+  switch (report_kind(ws)) {
+    case ReportKind::Synop: return ws.SYNOP_coded != 0;
+    case ReportKind::SynMet: return ws.SYNOP_coded != 0 && ws.METAR_coded != 0;
+    case ReportKind::Metar:
+    case ReportKind::Metar30: return ws.METAR_coded != 0;
+    case ReportKind::Speci: return ws.SPECI_coded != 0;
+    case ReportKind::None: break;
+  }
   return false;
 }
 

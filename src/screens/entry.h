@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "screens/record.h"
+
 namespace obsdesk {
 
 class Desk;
@@ -15,14 +17,14 @@ struct Control;
 // the focus back to it.
 void refuse(Desk& ws, Control& box, const std::string& words = {});
 
-// The report kind in use, as Combo5 shows it, blanks included.
-const std::string& report_kind(const Desk& ws);
+// The report kind in use, read from Combo5.
+ReportKind report_kind(const Desk& ws);
 // The hour box Text1 as typed ("03", "3", "21", ...).
 const std::string& hour_text(const Desk& ws);
 // True when the hour box shows one of the given hours, compared as text.
 bool hour_is(const Desk& ws, std::initializer_list<std::string_view> hours);
-// The station kind of the profile ("ايستگاه 12 ساعته" ...).
-const std::string& station_kind(const Desk& ws);
+// The station kind of the profile, read from its Combo1.
+StationKind station_kind(const Desk& ws);
 // The profile names a 12-hour station.
 bool twelve_hour_station(const Desk& ws);
 // A 12-hour station at 18, 21 or 00 UTC: only the dry bulb is read.

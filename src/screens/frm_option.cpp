@@ -77,16 +77,7 @@ std::vector<std::string> station_columns() {
 FrmOption::FrmOption() : Screen("FrmOption") {
   Combo1.items = {std::string(kStation12), std::string(kStation18), std::string(kStation24),
                   std::string(kStation6)};
-  Combo2.items = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ",
-                  "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
-                  "(Sunken) GGI - 3000  طشت تبخير سنج مدل ",
-                  "تانك (مخزن) 20 متر مربعي",
-                  "ساير وسائل اندازه گيري",
-                  "برنج",
-                  "گندم",
-                  "(Maize) ذرت",
-                  "(Sorghum) ذرت خوشه اي",
-                  "ديگر محصولات"};
+  Combo2.items = pan_kinds();
   limit[1] = {&txtminm1, &txtmin1, &txtmax1, &txtmaxm1};
   limit[2] = {&txtminm2, &txtmin2, &txtmax2, &txtmaxm2};
   limit[3] = {&txtminm3, &txtmin3, &txtmax3, &txtmaxm3};

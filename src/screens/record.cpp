@@ -113,16 +113,65 @@ const Column* find_column(std::string_view column) {
   return nullptr;
 }
 
-bool is_report_kind(std::string_view text) {
-  for (auto k : kReportKinds)
-    if (k == text) return true;
-  return false;
+namespace {
+
+template <class Kind>
+struct KindText {
+  Kind kind;
+  std::string_view text;
+};
+
+constexpr KindText<ReportKind> kReportTexts[] = {{ReportKind::Synop, kSynop},
+                                                     {ReportKind::SynMet, kSynMet},
+                                                     {ReportKind::Metar, kMetar},
+                                                     {ReportKind::Speci, kSpeci},
+                                                     {ReportKind::Metar30, kMetar30}};
+constexpr KindText<StationKind> kStationTexts[] = {{StationKind::Hours12, kStation12},
+                                                       {StationKind::Hours18, kStation18},
+                                                       {StationKind::Hours24, kStation24},
+                                                       {StationKind::Hours6, kStation6}};
+
+// Exact texts only: a kind padded or cut differently is no kind, as the
+// stored records hold them to the character.
+template <class Kind, std::size_t N>
+Kind kind_of(const KindText<Kind> (&table)[N], std::string_view text) {
+  for (const auto& k : table)
+    if (k.text == text) return k.kind;
+  return Kind::None;
 }
 
-bool is_synop_kind(std::string_view kind) { return kind == kSynop || kind == kSynMet; }
+template <class Kind, std::size_t N>
+std::string_view text_of(const KindText<Kind> (&table)[N], Kind kind) {
+  for (const auto& k : table)
+    if (k.kind == kind) return k.text;
+  return {};
+}
 
-bool is_metar_kind(std::string_view kind) {
-  return kind == kMetar || kind == kMetar30 || kind == kSpeci;
+}  // namespace
+
+ReportKind report_kind_of(std::string_view text) { return kind_of(kReportTexts, text); }
+std::string_view report_kind_text(ReportKind kind) { return text_of(kReportTexts, kind); }
+StationKind station_kind_of(std::string_view text) { return kind_of(kStationTexts, text); }
+std::string_view station_kind_text(StationKind kind) { return text_of(kStationTexts, kind); }
+
+bool is_synop_kind(ReportKind kind) { return kind == ReportKind::Synop || kind == ReportKind::SynMet; }
+
+bool is_metar_kind(ReportKind kind) {
+  return kind == ReportKind::Metar || kind == ReportKind::Metar30 || kind == ReportKind::Speci;
+}
+
+const std::vector<std::string>& pan_kinds() {
+  static const std::vector<std::string> items = {"USA طشت تبخير سنج باز  (بدون پوشش) مدل ",
+                                                 "USA طشت تبخير سنج باز  (باپوشش مشبك يا تور سيمي) مدل",
+                                                 "(Sunken) GGI - 3000  طشت تبخير سنج مدل ",
+                                                 "تانك (مخزن) 20 متر مربعي",
+                                                 "ساير وسائل اندازه گيري",
+                                                 "برنج",
+                                                 "گندم",
+                                                 "(Maize) ذرت",
+                                                 "(Sorghum) ذرت خوشه اي",
+                                                 "ديگر محصولات"};
+  return items;
 }
 
 const std::vector<std::string>& low_cloud_types() {

@@ -32,11 +32,16 @@ inline constexpr std::string_view kSpeci = "SPECI    ";
 inline constexpr std::string_view kMetar30 = "METAR(30')";
 inline constexpr std::array<std::string_view, 5> kReportKinds = {kSynop, kSynMet, kMetar, kSpeci, kMetar30};
 
-bool is_report_kind(std::string_view text);
+// The report kind as the rules use it. The texts above are what Combo5 shows
+// and the bank stores; a text converts to the kind where it is read and back
+// where it is shown or stored. `None` stands for a text that is no kind.
+enum class ReportKind { None, Synop, SynMet, Metar, Speci, Metar30 };
+ReportKind report_kind_of(std::string_view text);
+std::string_view report_kind_text(ReportKind kind);  // "" for None
 // "SYNOP    " and "SYN & MET": the kinds that code a SYNOP.
-bool is_synop_kind(std::string_view kind);
+bool is_synop_kind(ReportKind kind);
 // "METAR    ", "METAR(30')" and "SPECI    ": the kinds without the synoptic groups.
-bool is_metar_kind(std::string_view kind);
+bool is_metar_kind(ReportKind kind);
 
 // Cloud type lists. Each item is eight characters with the code figure last, but
 // for the low list of Combo3 and the SYNOP list of Combo4, whose first item (and,
@@ -56,10 +61,20 @@ const std::vector<std::string>& visibility_directions();
 inline constexpr std::string_view kLayerHead = "NLC";
 const std::vector<std::string>& layer_list();
 
+// The evaporation pans and crops of the Station profile's Combo2, spelt as the
+// list shows them (two with a closing blank); an item's place in the list is
+// the iE figure of 5EEEiE.
+const std::vector<std::string>& pan_kinds();
+
 // Station kinds of the Station profile.
 inline constexpr std::string_view kStation12 = "ايستگاه 12 ساعته";
 inline constexpr std::string_view kStation18 = "ايستگاه 18 ساعته";
 inline constexpr std::string_view kStation24 = "ايستگاه 24 ساعته";
 inline constexpr std::string_view kStation6 = "ايستگاه 6 ساعته";
+
+// The station kind as the rules use it, read from the profile's text.
+enum class StationKind { None, Hours12, Hours18, Hours24, Hours6 };
+StationKind station_kind_of(std::string_view text);
+std::string_view station_kind_text(StationKind kind);  // "" for None
 
 }  // namespace obsdesk

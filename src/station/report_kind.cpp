@@ -1,5 +1,6 @@
 #include "station/report_kind.h"
 
+#include "screens/entry.h"
 #include "screens/record.h"
 #include "pickers/pickers.h"
 #include "station/session.h"
@@ -15,17 +16,17 @@ void show(Control& c, bool on) { c.visible = on; }
 
 void Combo5_change(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  const std::string kind = k.Combo5.text;
-  if (!is_report_kind(kind)) {
+  const ReportKind kind = report_kind(ws);
+  if (kind == ReportKind::None) {
     // A typed text that is none of the five is wiped and the box keeps the focus.
     ws.set(k.Combo5, "");
     ws.focus(k.Combo5);
     return;
   }
-  const bool synop = kind == kSynop;
+  const bool synop = kind == ReportKind::Synop;
   const bool synop_kind = is_synop_kind(kind);
-  const bool timed = kind == kMetar30 || kind == kSpeci;  // time typed in txt1
-  const bool speci = kind == kSpeci;
+  const bool timed = kind == ReportKind::Metar30 || kind == ReportKind::Speci;  // time typed in txt1
+  const bool speci = kind == ReportKind::Speci;
 
   show(k.Text1, !timed);
   show(k.txt1, timed);
@@ -76,7 +77,7 @@ void Combo5_change(Desk& ws) {
 
   apply_hour_rules(ws);
 
-  if (kind == kMetar) ws.focus(k.Text1);
+  if (kind == ReportKind::Metar) ws.focus(k.Text1);
   if (timed) ws.focus(k.txt1);
   if (synop_kind) open_irix_picker(ws, false);
 }

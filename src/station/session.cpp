@@ -100,12 +100,12 @@ void txt1_leave(Desk& ws) {
   if (t.empty()) return;
   const std::string full = pad_left(t, 4);
   ws.set(k.txt1, full);
-  ws.set(report_kind(ws) == kSpeci ? ws.FrmCode.Text29 : ws.FrmCode.TXTUTC, full);
+  ws.set(report_kind(ws) == ReportKind::Speci ? ws.FrmCode.Text29 : ws.FrmCode.TXTUTC, full);
 }
 
 void Text1_leave(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  if (twelve_hour_night(ws) && report_kind(ws) == kSynMet) {
+  if (twelve_hour_night(ws) && report_kind(ws) == ReportKind::SynMet) {
     ws.set(k.Combo5, std::string(kSynop));
     k.Command4.enabled = false;
     ws.focus(k.Text27);
@@ -114,8 +114,8 @@ void Text1_leave(Desk& ws) {
 
 void Text1_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  const std::string& kind = report_kind(ws);
-  if (!is_report_kind(kind)) {
+  const ReportKind kind = report_kind(ws);
+  if (kind == ReportKind::None) {
     ws.error(kChooseKind);
     ws.focus(k.Combo5);
   } else if (is_synop_kind(kind) && k.Text48.text.empty()) {
@@ -154,7 +154,7 @@ bool night_synop_coded(const Desk& ws) {
 
 // The coded flags the report kind needs before it may be confirmed.
 bool coded_for_kind(const Desk& ws) {
-  return report_kind_coded(ws) || (report_kind(ws) == kSynop && night_synop_coded(ws));
+  return report_kind_coded(ws) || (report_kind(ws) == ReportKind::Synop && night_synop_coded(ws));
 }
 
 // Only a choice from the list counts: typed text is put back to the heading.
@@ -198,7 +198,7 @@ void fill_today(Desk& ws) {
 
 void apply_hour_rules(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
-  const std::string& kind = report_kind(ws);
+  const ReportKind kind = report_kind(ws);
   const bool synop_kind = is_synop_kind(kind);
   auto at = [&](std::initializer_list<std::string_view> hours) { return hour_is(ws, hours); };
   // Until an hour is typed the groups stay as the report kind set them.
@@ -214,7 +214,7 @@ void apply_hour_rules(Desk& ws) {
   k.Frame10.visible = synop_kind && at({"18"});
   k.Frame5.visible = synop_kind && at({"03", "3", "09", "9", "15"});
   ws.FrmCode.Frame12.visible = at({"03", "3", "09", "9", "15"});
-  if (kind != kSpeci) {
+  if (kind != ReportKind::Speci) {
     k.Txttimesun.visible = k.Label109.visible = at({"18"});
     for (Control* c : Controls{&k.Txttond, &k.Label98, &k.Txtmaxwind, &k.Label96}) c->visible = at({"21"});
   }

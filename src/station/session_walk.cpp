@@ -51,7 +51,7 @@ double metar_visibility(const FrmKashf& k) { return val(k.TxtVM.text.empty() ? k
 void Text74_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text31.text.empty()) return;
-  const std::string& kind = report_kind(ws);
+  const ReportKind kind = report_kind(ws);
   if (is_synop_kind(kind)) {
     ws.set(k.TWW, "1");
     const std::string ix = char_at(k.Text48.text, 2);

@@ -52,7 +52,7 @@ DayRun run_day(const std::string& scenario) {
     const std::string kind = ws.FrmDisplayKashf.TXTSEL.text;
     const int hour = int_val(trim(ws.FrmDisplayKashf.Text1.text));
     const std::string text = trim(ws.FrmDisplayKashf.txtSYN.text);
-    const bool bulletin = is_synop_kind(kind) && hour % 3 == 0 && !text.empty();
+    const bool bulletin = is_synop_kind(report_kind_of(kind)) && hour % 3 == 0 && !text.empty();
     const BufrReport sent = bufr_report(ws);
     const std::string day = bufr_day_file(ws);
     const auto latest = resolve_bank_path(ws.bank_root(), trim(ws.FrmMain.LabName.text) + "\\SYNOP.BUFR");

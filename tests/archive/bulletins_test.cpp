@@ -55,7 +55,7 @@ TEST(Bulletins, EachKindWritesItsEnvelopes) {
       {"", "06", false, {}},
   };
   for (const Case& c : cases) {
-    const auto got = bulletins_for(c.kind, fields(c.hour, c.second));
+    const auto got = bulletins_for(report_kind_of(c.kind), fields(c.hour, c.second));
     const std::string where = std::string(c.kind) + " at " + c.hour;
     ASSERT_EQ(got.size(), c.files.size()) << where;
     for (std::size_t i = 0; i < got.size(); ++i) {
@@ -88,7 +88,7 @@ TEST(Bulletins, AFormWithNoCodedTextWritesNoBulletin) {
     if (!c.metar) f.metar1.clear();
     if (!c.speci) f.speci1.clear();
     std::vector<std::string> files;
-    for (const Bulletin& b : bulletins_for(c.kind, f)) files.push_back(b.file);
+    for (const Bulletin& b : bulletins_for(report_kind_of(c.kind), f)) files.push_back(b.file);
     EXPECT_EQ(files, c.files) << c.kind << " at " << c.hour;
   }
 }

@@ -86,11 +86,12 @@ TEST(SynopTendency, AmountInTenthsOfThreeFigures) {
 }
 
 TEST(SynopRain, BandsHourAndStationKind) {
-  const std::string k24(kStation24), k12(kStation12), k18(kStation18), k6(kStation6);
+  constexpr auto k24 = StationKind::Hours24, k12 = StationKind::Hours12, k18 = StationKind::Hours18,
+                 k6 = StationKind::Hours6;
   struct Case {
     const char* rain;
     const char* hour;
-    std::string kind;
+    StationKind kind;
     std::optional<std::string> group;
   };
   const Case table[] = {
@@ -100,7 +101,7 @@ TEST(SynopRain, BandsHourAndStationKind) {
       {"989", "12", k24, "69891"},  {"1200", "12", k24, "69891"},
       {"0", "18", k24, "60001"},    {"0", "03", k24, std::nullopt},
       {"0", "06", k24, "60001"},    {"0", "06", k18, "60002"},     {"0", "06", k12, "60003"},
-      {"0", "06", k6, "60004"},     {"0", "06", "other", "6000"},  {"/", "12", k24, "6///1"},
+      {"0", "06", k6, "60004"},     {"0", "06", StationKind::None, "6000"},  {"/", "12", k24, "6///1"},
       {"/", "09", k24, std::nullopt}, {"0.05", "12", k24, std::nullopt},
   };
   for (const Case& c : table) EXPECT_EQ(rain_group(c.rain, c.hour, c.kind), c.group) << c.rain << " at " << c.hour;

@@ -67,13 +67,35 @@ TEST(ReportKind, ShowsAndLocksTheGroupsOfItsKind) {
     EXPECT_EQ(k.txtt12.fore_color, e.t12_colour) << kind;
     const std::string focus = *e.focus ? e.focus : "FrmKashf.Combo5";
     // The SYNOP kinds open the iR iX board over the entry screen.
-    EXPECT_EQ(ws.FrmIRIX.visible, is_synop_kind(e.kind)) << kind;
+    EXPECT_EQ(ws.FrmIRIX.visible, is_synop_kind(report_kind_of(e.kind))) << kind;
     ASSERT_NE(k.active, nullptr);
     EXPECT_EQ(k.active->full_name(), focus) << kind;
-    if (!is_synop_kind(e.kind)) {
+    if (!is_synop_kind(report_kind_of(e.kind))) {
       for (Control* f : Controls{&k.Frame5, &k.Frame8, &k.Frame9, &k.Frame10}) EXPECT_FALSE(f->visible) << kind;
     }
   }
+}
+
+// The kinds are stored and shown as their exact texts: each list item reads as
+// its kind and gives back the same characters, and a text padded or cut any
+// other way is no kind at all.
+TEST(ReportKind, TextsConvertBothWaysToTheCharacter) {
+  for (std::string_view text : kReportKinds) {
+    const ReportKind kind = report_kind_of(text);
+    EXPECT_NE(kind, ReportKind::None) << text;
+    EXPECT_EQ(report_kind_text(kind), text);
+  }
+  for (std::string_view text : {kStation12, kStation18, kStation24, kStation6}) {
+    const StationKind kind = station_kind_of(text);
+    EXPECT_NE(kind, StationKind::None) << text;
+    EXPECT_EQ(station_kind_text(kind), text);
+  }
+  for (std::string_view text : {"", "SYNOP", "METAR", "SYN & MET ", "synop    ", "METAR(30)"})
+    EXPECT_EQ(report_kind_of(text), ReportKind::None) << "[" << text << "]";
+  for (std::string_view text : {"", "ايستگاه 12", " ايستگاه 24 ساعته"})
+    EXPECT_EQ(station_kind_of(text), StationKind::None) << "[" << text << "]";
+  EXPECT_EQ(report_kind_text(ReportKind::None), "");
+  EXPECT_EQ(station_kind_text(StationKind::None), "");
 }
 
 TEST(ReportKind, ATypedTextThatIsNoKindIsWiped) {

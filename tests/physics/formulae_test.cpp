@@ -39,7 +39,7 @@ TEST(Pressure, StationCasesComeOutToTheLastPublishedDigit) {
     const PressureReport r = DAMA_FASHAR(in, kept);
     EXPECT_TRUE(r.notices.empty()) << c.name;
     // Tehran's dew point 4.55 lies under the half: 4.5.
-    EXPECT_EQ(nine(publish(kept, kSynop)), c.expected) << c.name;
+    EXPECT_EQ(nine(publish(kept, ReportKind::Synop)), c.expected) << c.name;
   }
 }
 
@@ -124,8 +124,8 @@ TEST(Psychrometry, ModuleInversThenForwardGivesTheRoundedWetBulbsHumidity) {
   EXPECT_EQ(num(kept.TDRAW), "4.5");  // one decimal from the inverse
   in.TWET = round_to(kept.TWETRAW, 1);
   DAMA_FASHAR(in, kept);
-  EXPECT_EQ(publish(kept, kSynop).RH, "36.1");
-  EXPECT_EQ(publish(kept, kSynop).TDEW, "4.5");
+  EXPECT_EQ(publish(kept, ReportKind::Synop).RH, "36.1");
+  EXPECT_EQ(publish(kept, ReportKind::Synop).TDEW, "4.5");
 
   // Saturated air at 20: the wet bulb is the dry bulb.
   PressureInputs wet{1190.8, 35, 41, "18", 20, 100, 20, 875.4};
@@ -195,7 +195,7 @@ TEST(Pressure, FaultsAreToldAndNeverPublishNaN) {
     bool told = false;
     for (const PressureNotice& n : rep.notices) told |= n.fault && n.text == r.fault;
     EXPECT_TRUE(told) << r.name;
-    for (const std::string& t : nine(publish(kept, kSynop))) {
+    for (const std::string& t : nine(publish(kept, ReportKind::Synop))) {
       EXPECT_EQ(t.find("nan"), std::string::npos) << r.name << " " << t;
       EXPECT_EQ(t.find("inf"), std::string::npos) << r.name << " " << t;
       EXPECT_TRUE(std::isfinite(val(t))) << r.name;
@@ -226,19 +226,19 @@ TEST(Pressure, PublishingByKindAndTheInchesText) {
   kept.QFFSTR = "999.149999";
   kept.H850STR = "1402.55666";
   struct Row {
-    std::string_view kind;
+    ReportKind kind;
     double qin;
     const char *qff, *h850, *text;
   } const rows[] = {
-      {kSynop, 29.9, "999.1", "1402.6", "29.90"},     {kSynMet, 29.92, "999.1", "1402.6", "29.92"},
-      {kMetar, 30.0, "+++++", "+++++", "30"},         {kSpeci, 29.899, "+++++", "+++++", "29.90"},
-      {kMetar30, 9.55, "+++++", "+++++", "9.550"},    {kSynop, 9.5, "999.1", "1402.6", "9.5"},
+      {ReportKind::Synop, 29.9, "999.1", "1402.6", "29.90"},  {ReportKind::SynMet, 29.92, "999.1", "1402.6", "29.92"},
+      {ReportKind::Metar, 30.0, "+++++", "+++++", "30"},      {ReportKind::Speci, 29.899, "+++++", "+++++", "29.90"},
+      {ReportKind::Metar30, 9.55, "+++++", "+++++", "9.550"}, {ReportKind::Synop, 9.5, "999.1", "1402.6", "9.5"},
   };
   for (const auto& r : rows) {
     kept.QINRAW = r.qin;
     const PublishedPressure p = publish(kept, r.kind);
-    EXPECT_EQ(p.QFF, r.qff) << r.kind;
-    EXPECT_EQ(p.H850, r.h850) << r.kind;
+    EXPECT_EQ(p.QFF, r.qff) << report_kind_text(r.kind);
+    EXPECT_EQ(p.H850, r.h850) << report_kind_text(r.kind);
     EXPECT_EQ(p.QIN, r.text) << r.qin;
   }
 }
