@@ -17,6 +17,7 @@
 #include "archive/copy_out.h"
 #include "core/textnum.h"
 #include "screens/desk.h"
+#include "screens/entry.h"
 #include "calendar/calendar.h"
 
 namespace obsdesk {
@@ -40,9 +41,10 @@ bool one_of(long v, std::initializer_list<long> set) {
   return false;
 }
 
-// ---- Confirmation, step by step ------------------------------------------------
+// ---- Confirmation, in the order ZAKHIREH runs it ---------------------------------
 
-// Step 1: both leap flags by the Gregorian rule, the Persian year too.
+// Both leap flags by the Gregorian rule, the Persian year's too. The date repair
+// that follows reads them, so they are set first.
 void leap_flags(Desk& ws) {
   CalendarState& c = ws.calendar;
   c.GLeapThis = 0;
@@ -57,7 +59,9 @@ void put_date(Desk& ws, TextBox& day, TextBox& month, TextBox& year, const DateT
   ws.set(year, d.year);
 }
 
-// Step 2: a date one day past its month's end, Gregorian first.
+// A date one day past its month's end (what the date boxes give on the last day
+// of a month) becomes the first of the next, Gregorian first; the key text is
+// then composed again, so the record's key and its date boxes agree.
 void repair_dates(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   put_date(ws, k.TXTDAYmi, k.TXTMONTHMI, k.TXTYEARmi,
@@ -67,9 +71,10 @@ void repair_dates(Desk& ws) {
   rebuild_key_text(ws);
 }
 
-// Step 4: the past-hours row takes this report's temperature and QFE at its
-// main hour and the working copies at the others; the rain comes from the
-// working copies alone.
+// The past-hours row takes this report's temperature and QFE at its main hour
+// and the working copies at the others, so that the later reports of the day
+// find this hour's readings for their 12- and 24-hour figures; the rain comes
+// from the working copies alone.
 void roll_past_hours(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
@@ -93,8 +98,9 @@ void keep_past_row(Desk& ws) {
   past.update();
 }
 
-// Step 5: the SCDATA lines by station kind, report kind and hour, listed in the
-// journal in the order they are written.
+// The SCDATA lines by station kind, report kind and hour, listed in the journal
+// in the order they are written, so that a save cut short is finished in that
+// same order.
 void scdata_lines(Desk& ws, SaveJournal& journal) {
   FrmKashf& k = ws.FrmKashf;
   const std::string folder = station_folder(ws);
@@ -109,14 +115,12 @@ void scdata_lines(Desk& ws, SaveJournal& journal) {
   const std::string s = ws.FrmCode.TXTSCDATA.text;
   const std::string g = ws.FrmCode.TXTgolbad.text;
   const std::string kind = k.Combo5.text;
-  const bool twelve_hour = ws.FrmOption.Combo1.text == kStation12;
-  const long hour = number(k.Text1.text);
   auto to = [&](const std::string& name, const std::string& line) {
     journal.append(bank_file(ws, name), line_bytes(line));
   };
 
-  if (twelve_hour && kind == kSpeci) return;
-  if (twelve_hour && one_of(hour, {18, 21, 0})) {
+  if (twelve_hour_station(ws) && kind == kSpeci) return;
+  if (twelve_hour_night(ws)) {
     // No daily record at these hours of a 12-hour station: no IT line.
     to(n.monthG, g);
     to(n.totalG, g);
@@ -184,7 +188,8 @@ Control* exact(Screen& s, const std::string& name) {
   return c != nullptr && c->name == name ? c : nullptr;
 }
 
-// Step 6: every value into the browser's row; the lists go to their columns'
+// Every value into the browser's row, since the record is composed from the
+// browser's boxes and not the entry screen's; the lists go to their columns'
 // boxes, the key text is composed anew, and the Combo3 type stands last in
 // Text42.
 void copy_into_browser(Desk& ws) {
@@ -210,8 +215,10 @@ void copy_into_browser(Desk& ws) {
   if (len(b.Text20.text) == 4) ws.set(b.Text20, b.Text20.text + "0");  // "29.9" is kept as "29.90"
 }
 
-// Step 7: each value left-aligned in its stored width. A value wider than its
-// field stops the confirmation here; the boxes after it stay as they are.
+// Each value left-aligned in its stored width: the record is read back by
+// column, so a short value must still fill its field. A value wider than its
+// field stops the confirmation here, before the entry screen closes and with
+// nothing of the record written; the boxes after it stay as they are.
 void pad_browser(Desk& ws) {
   FrmDisplayKashf& b = ws.FrmDisplayKashf;
   auto pad = [&](std::string_view name, int width) {
@@ -228,7 +235,8 @@ void pad_browser(Desk& ws) {
   pad("Text9", 4);  // the second layer's height is stored padded, though not in the record
 }
 
-// Step 8: the entry screen closes and the code panel goes back to blank groups.
+// The entry screen closes and the code panel goes back to blank groups, so
+// the next report starts from nothing this one left behind.
 void close_entry(Desk& ws) {
   ws.unload(ws.FrmKashf);
   FrmCode& c = ws.FrmCode;

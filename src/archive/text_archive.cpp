@@ -1,10 +1,14 @@
 #include "archive/text_archive.h"
 
+#include <algorithm>
+#include <stdexcept>
+
 #include "bank/bank.h"
 #include "bank/journal.h"
 #include "calendar/calendar.h"
 #include "core/textnum.h"
 #include "screens/desk.h"
+#include "screens/record.h"
 
 namespace obsdesk {
 
@@ -19,6 +23,10 @@ std::string kashf_dir(std::string_view folder) { return std::string(folder) + "\
 
 // A field of a line: the value left-aligned in its width; a longer value stands.
 std::string field(std::string_view value, std::size_t width) { return pad_right(value, width); }
+
+// The station line of the browser leads the record; it is no column of the
+// table.
+constexpr RecordField kStationLine{"Text44", 50};
 
 }  // namespace
 
@@ -86,26 +94,32 @@ std::string previous_month_tag(std::string_view key) {
 std::string it_line(std::string_view s) { return "266" + mid(s, 4); }
 
 const std::vector<RecordField>& kashf_record_fields() {
-  static const std::vector<RecordField> fields = {
-      {"Text44", 50},     {"TXTSEL", 0},     {"Text48", 2},      {"TXTYYMMDDTT", 10}, {"TXTYEARmi", 4},
-      {"TXTMONTHMI", 2},  {"TXTDAYmi", 2},   {"TXTYEARsh", 4},   {"TXTMONTHSH", 2},   {"TXTDAYsh", 2},
-      {"Text1", 0},       {"Text2", 4},      {"Text40", 4},      {"Text39", 4},       {"Text3", 3},
-      {"TXTGUSTY", 3},    {"Text4", 5},      {"CMbMAX", 0},      {"Text26", 5},       {"CMbMIN", 0},
-      {"Text5", 2},       {"Text12", 4},     {"txtt12", 5},      {"Text27", 5},       {"Text28", 5},
-      {"Text13", 5},      {"Text14", 6},     {"Text38", 1},      {"Text25", 4},       {"Text6", 2},
-      {"Text45", 8},      {"Text7", 4},      {"Text8", 2},       {"Text43", 8},       {"Text10", 2},
-      {"Text42", 8},      {"Text11", 4},     {"Text49", 2},      {"Text46", 8},       {"txtmin", 4},
-      {"Text17", 2},      {"Text47", 8},     {"Text16", 4},      {"Text23", 2},       {"Text54", 8},
-      {"Text22", 4},      {"Text15", 4},     {"Text18", 6},      {"Text19", 6},       {"Text20", 5},
-      {"Text21", 6},      {"Text24", 7},     {"Text29", 5},      {"Text30", 5},       {"Text31", 4},
-      {"Text32", 5},      {"Text33", 5},     {"Text34", 4},      {"Text35", 4},       {"Text36", 4},
-      {"Text37", 4},      {"Text68", 5},     {"Text69", 3},      {"Text70", 3},       {"Text63", 5},
-      {"Text64", 5},      {"Text65", 7},     {"Text66", 4},      {"Text67", 6},       {"Text71", 5},
-      {"Text72", 5},      {"Text73", 5},     {"Txttond", 5},     {"Txttimesun", 5},   {"Txtmaxwind", 5},
-      {"Text59", 5},      {"Text60", 5},     {"Text50", 4},      {"txtpast6", 4},     {"Text51", 4},
-      {"Text53", 4},      {"TXTWW4", 7},     {"TXTWW5", 7},      {"TXTWW6", 7},       {"TXTWW1", 7},
-      {"TXTWW3", 7},      {"TXTWW2", 7},     {"TXTNAM", 30},
+  // The browser's boxes in the order of the record. Each width is the stored
+  // width of the column the box shows, so the record and the table cannot
+  // drift apart.
+  static constexpr std::string_view kOrder[] = {
+      "TXTSEL", "Text48", "TXTYYMMDDTT", "TXTYEARmi", "TXTMONTHMI", "TXTDAYmi", "TXTYEARsh", "TXTMONTHSH",
+      "TXTDAYsh", "Text1", "Text2", "Text40", "Text39", "Text3", "TXTGUSTY", "Text4",
+      "CMbMAX", "Text26", "CMbMIN", "Text5", "Text12", "txtt12", "Text27", "Text28",
+      "Text13", "Text14", "Text38", "Text25", "Text6", "Text45", "Text7", "Text8",
+      "Text43", "Text10", "Text42", "Text11", "Text49", "Text46", "txtmin", "Text17",
+      "Text47", "Text16", "Text23", "Text54", "Text22", "Text15", "Text18", "Text19",
+      "Text20", "Text21", "Text24", "Text29", "Text30", "Text31", "Text32", "Text33",
+      "Text34", "Text35", "Text36", "Text37", "Text68", "Text69", "Text70", "Text63",
+      "Text64", "Text65", "Text66", "Text67", "Text71", "Text72", "Text73", "Txttond",
+      "Txttimesun", "Txtmaxwind", "Text59", "Text60", "Text50", "txtpast6", "Text51", "Text53",
+      "TXTWW4", "TXTWW5", "TXTWW6", "TXTWW1", "TXTWW3", "TXTWW2", "TXTNAM",
   };
+  static const std::vector<RecordField> fields = [] {
+    std::vector<RecordField> out{kStationLine};
+    for (std::string_view box : kOrder) {
+      const auto& columns = kashf_columns();
+      const auto c = std::find_if(columns.begin(), columns.end(), [&](const Column& x) { return x.browser_box == box; });
+      if (c == columns.end()) throw std::logic_error("no KASHF column is shown in " + std::string(box));
+      out.push_back({box, c->width});
+    }
+    return out;
+  }();
   return fields;
 }
 

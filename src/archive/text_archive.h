@@ -73,9 +73,10 @@ std::string kashf_record(const std::function<std::string(std::string_view box)>&
 // A line as the files hold it: Windows-1256, ended by CR LF.
 std::string line_bytes(std::string_view line);
 std::string lines_bytes(const std::vector<std::string>& lines);
-// Everything the program has written under the bank reaches the disk: the text
-// files are written without waiting, and a save flushes them all at once, with
-// one flush of the bank's file system rather than one per file and line.
+// Everything the program has written under the bank reaches the disk. A line
+// appended to a text file is not on disk when the append returns: a save
+// flushes all of them at once, with one flush of the bank's file system rather
+// than one per file and line, so a crash before that flush can lose them.
 void flush_bank(const std::filesystem::path& root);
 
 // A system name below the bank root as a file under it.

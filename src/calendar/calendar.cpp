@@ -64,7 +64,9 @@ void shamsi_to_gregorian(CalendarState& s, int y, int m, int d) {
     int year_offset, day_add, limit, month, next_month, take;
   };
   // Gregorian year Y + offset, day D + add - A; past the limit the month moves on
-  // and "take" days are taken away (month 9 tests 31 but takes 30: it stays so).
+  // and "take" days are taken away. Month 9 tests 31 but takes 30: kept as the
+  // station's registers expect, since the dates already archived were computed
+  // so and a search must find them under the same key.
   static const Row rows[13] = {{},
                                {621, 20, 31, 3, 4, 31},  {621, 20, 30, 4, 5, 30},  {621, 21, 31, 5, 6, 31},
                                {621, 21, 30, 6, 7, 30},  {621, 22, 31, 7, 8, 31},  {621, 22, 31, 8, 9, 31},

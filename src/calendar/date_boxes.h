@@ -10,7 +10,8 @@ struct Control;
 // A key released in TXTDAYmi, TXTMONTHMI or TXTYEARmi (key_in_day: in the day
 // box). With all three filled, the Persian boxes get the date; a Gregorian date
 // that cannot be (30 February, 31 April, a day above 31) clears them. From the
-// day box the 29th of February is cleared in every year: it stays so.
+// day box the 29th of February is cleared in every year, leap or not: kept as
+// the observers know it, who then type the date from the Persian boxes.
 void gregorian_date_key_up(Desk& ws, bool key_in_day);
 
 // A key released in TXTDAYsh, TXTMONTHSH or TXTYEARsh (changed: that box). The

@@ -18,7 +18,9 @@ namespace {
 constexpr const char* kCheckTotal = "مــقدار كل ابــر را چــك نمـائيـــد";
 constexpr const char* kConfirmTotal = "آيا مقـدار ابـــر را تائيد مينمائيد ؟";
 constexpr const char* kCheckAmount = "مــقدار  ابــر را چــك نمـائيـــد";
-// The first refusal of the first layer is spaced differently; it stays so.
+// The first refusal of the first layer is spaced differently (one blank where
+// the others have two). Kept as the observers have always seen it: the
+// refusal means the same either way, and the words stand exactly as shown.
 constexpr const char* kCheckAmountFirst = "مــقدار ابــر را چــك نمـائيـــد";
 constexpr const char* kTypeVisibility = "مــقدار ديد افقي را وارد نمـائيـــد";
 constexpr const char* kSameTypeFirstPair = "نوع ابر لايه هاي  پايين  را چــك نمـائيـــد";
@@ -325,7 +327,7 @@ void rainfall_rule(Desk& ws) {
   if (is_metar_kind(report_kind(ws))) {
     ws.focus(k.Text74);
   } else if (hour_is(ws, {"00", "0", "06", "6", "09", "9", "12", "18", "21"})) {
-    const bool twelve = station_kind(ws) == kStation12;
+    const bool twelve = twelve_hour_station(ws);
     k.Text42.visible = twelve;
     k.Text50.visible = !twelve;
     ws.focus(twelve ? static_cast<Control&>(k.Text42) : k.Text50);

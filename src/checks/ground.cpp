@@ -17,26 +17,27 @@ namespace obsdesk {
 inline constexpr double kWaterToEvaporation = 11426.79;
 inline constexpr double kEvaporationToWater = 1142.679;
 
-bool ground_minimum_figures(const std::string& text, std::string& sign, std::string& value) {
-  if (text == "/" || text.empty() || text == "." || text == "-" || text == "-.") return false;
-  double v = val(text);
-  const bool ends_in_5 = right(text, 1) == "5";
+std::optional<GroundMinimum> ground_minimum(std::string_view text, NumberReader read) {
+  const std::string t = trim(text);
+  if (t.empty() || t == "/" || t == "." || t == "-" || t == "-.") return std::nullopt;
+  double v = read(t);
+  const bool ends_in_5 = t.back() == '5';
+  GroundMinimum g;
   if (v < 0) {
     if (ends_in_5) v -= 0.1;
     v = -v;
-    sign = "1";
+    g.sign = "1";
   } else {
     if (ends_in_5) v += 0.1;
-    sign = "0";
+    g.sign = "0";
   }
-  value = round_text(v, 0);
-  if (len(value) == 1) value = "0" + value;
-  return true;
+  g.temp = pad_left(round_text(v, 0), 2);
+  return g;
 }
 
-std::string snow_depth_figures(const std::string& text) {
+std::string snow_depth_figures(std::string_view text, NumberReader read) {
   if (text.empty()) return "";
-  const double v = round_to(val(text), 0);
+  const double v = round_to(read(text), 0);
   if (v == 0) return "997";
   return pad_left(num(v), 3);
 }
@@ -87,7 +88,10 @@ void Text68_leave(Desk& ws) {
   Control& g = ws.FrmKashf.Text68;
   if (!is_reading(g.text)) return;
   if (!within_hard(ws, g, val(g.text), kGround, words::kExtremeOutOfRange)) return;
-  ground_minimum_figures(g.text, ws.GroundSign, ws.GroundTemp);
+  if (const auto m = ground_minimum(g.text)) {
+    ws.GroundSign = m->sign;
+    ws.GroundTemp = m->temp;
+  }
 }
 
 // The soft pair of the ground minimum, asked as the next boxes are entered.

@@ -58,8 +58,6 @@ RainTable read_table(const Desk& ws) {
   return t;
 }
 
-bool twelve_hour_station(const Desk& ws) { return ws.FrmOption.Combo1.text == kStation12; }
-
 // Where Enter leaves a box, by UTC hour; the last row (-1) serves every other hour.
 struct Exit {
   int hour;

@@ -22,20 +22,10 @@ namespace {
 
 constexpr int kAir = 1, kWetBulb = 2;
 
-bool twelve_hour_station(Desk& ws) { return ws.FrmOption.Combo1.text == kStation12; }
-
 // Present weather of snow and ice: rain and snow, snow, ice pellets, showers of
 // snow and hail, thunderstorm with hail.
 bool snow_or_ice(int ww) {
   return (ww >= 68 && ww <= 79) || (ww >= 83 && ww <= 86) || ww == 88 || ww == 93 || ww == 94;
-}
-
-// The hours at which a 12-hour station reads only the dry bulb: 18, 21 and 00.
-bool first_form(Desk& ws) {
-  const std::string& hour = ws.FrmKashf.Text1.text;
-  if (!twelve_hour_station(ws) || hour.empty()) return false;
-  const double h = val(hour);
-  return h == 18 || h == 21 || h == 0;
 }
 
 // Asks whether the observer types RH in place of the wet bulb. True on Yes: the
@@ -106,7 +96,7 @@ void Text27_enter(Desk& ws) {
 void Text27_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   Control& tdry = k.Text27;
-  if (first_form(ws)) {
+  if (twelve_hour_night(ws)) {
     // Only the dry bulb is read: the station pressure is typed by hand.
     if (tdry.text.empty()) return;
     if (is_reading(tdry.text)) {

@@ -19,7 +19,8 @@ constexpr const char* kCheckVisibility = "مــقدار ديد افقي را چ
 constexpr const char* kConfirmVisibility = "آيا ديد افقي را تائيد مينمائيد ؟";
 constexpr const char* kTypeSpeedFirst = "مــقدار سـرعـت باد را وارد نمـائيـــد";
 // The minimum and maximum borrow the words of the temperature and the wind on a
-// bad character; they are intended to stay so.
+// bad character. Kept as the station's observers know them: they type again on
+// those words, and new words for the same refusal would read as a new rule.
 constexpr const char* kBorrowedFirst = "مــقدار دمــا را چــك نمـائيـــد";
 constexpr const char* kBorrowedOther = "مــقدار ســرعت باد را چــك نمـائيـــد";
 constexpr const char* kCheckMinimum = "مــقدار ديد حداقل را چك نمائيد";

@@ -17,7 +17,9 @@ constexpr const char* kCheckDirection = "مــقدار ســمت باد را �
 constexpr const char* kTypeDirection = "مــقدار ســمت باد را وارد نمـائيـــد";
 constexpr const char* kCheckSpeed = "مــقدار ســرعت باد را چــك نمـائيـــد";
 constexpr const char* kConfirmSpeed = "آيا سرعت باد را تائيد مينمائيد ؟";
-// The threshold is 49 and the words say 50: they stay so.
+// The question comes above 49 while its words say 50: kept as the station's
+// observers know it, since a speed of 50 asked about under other words would
+// read to them as a new rule.
 constexpr const char* kConfirmFifty = "آيا سرعت باد را با بيش از 50 متر بر ثانيه  تائيد مينمائيد ؟";
 constexpr const char* kCheckMaxWind = "مــقدار حداكثر باد را چــك نمـائيـــد";
 constexpr const char* kCheckGustRecord = "مــقدار تند باد را چــك نمـائيـــد";

@@ -13,6 +13,7 @@
 #include "screens/boards.h"
 #include "core/textnum.h"
 #include "screens/desk.h"
+#include "screens/entry.h"
 
 namespace obsdesk {
 
@@ -317,13 +318,7 @@ std::string speci_text(Desk& ws) {
 }
 
 void open_observer_list(Desk& ws) {
-  const std::string& kind = ws.FrmKashf.Combo5.text;
-  bool coded = false;
-  if (kind == kMetar || kind == kMetar30) coded = ws.METAR_coded == 1;
-  if (kind == kSynop) coded = ws.SYNOP_coded == 1;
-  if (kind == kSpeci) coded = ws.SPECI_coded == 1;
-  if (kind == kSynMet) coded = ws.METAR_coded * ws.SYNOP_coded == 1;
-  if (coded) ws.FrmKashf.Combo7.enabled = true;
+  if (report_kind_coded(ws)) ws.FrmKashf.Combo7.enabled = true;
 }
 
 }  // namespace obsdesk

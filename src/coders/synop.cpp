@@ -1,6 +1,8 @@
 #include "coders/synop.h"
 
+#include "checks/temperature.h"
 #include "coders/code_panel.h"
+#include "coders/metar.h"
 #include "coders/coder_common.h"
 #include "coders/synop_groups.h"
 #include "coders/synop_sections.h"
@@ -100,7 +102,7 @@ bool section3_and_5(Desk& ws, const std::string& hour) {
 
   ws.set(p.Text97, std::string(kBlankGroup));
   if (!k.Text53.text.empty() && hour == "06") set_group(ws, p.Text97, rain24_group(k.Text53.text));
-  if (const auto g = ground_minimum(k.Text68.text)) {
+  if (const auto g = ground_minimum(k.Text68.text, coder_number)) {
     ws.GroundSign = g->sign;
     ws.GroundTemp = g->temp;
   }
@@ -152,18 +154,6 @@ std::string golbad_line(Desk& ws) {
          p.Text75.text + "***" + p.Text34.text + "*******";
 }
 
-// The observer may be chosen once the report kind's coders have run.
-void enable_observer(Desk& ws) {
-  FrmKashf& k = ws.FrmKashf;
-  const std::string& kind = k.Combo5.text;
-  bool on = false;
-  if (kind == kMetar || kind == kMetar30) on = ws.METAR_coded == 1;
-  else if (kind == kSynop) on = ws.SYNOP_coded == 1;
-  else if (kind == kSpeci) on = ws.SPECI_coded == 1;
-  else if (kind == kSynMet) on = ws.METAR_coded * ws.SYNOP_coded == 1;
-  if (on) k.Combo7.enabled = true;
-}
-
 }  // namespace
 
 std::string join_synop(const std::vector<std::string>& boxes, std::string_view qnt) {
@@ -180,7 +170,7 @@ void synop_date_step(Desk& ws, std::string_view station_kind, int clock_hour,
                      std::initializer_list<std::string_view> hours) {
   FrmKashf& k = ws.FrmKashf;
   // The hour of the clock when the date boxes were filled: the date they hold is
-  // the one this step corrects.
+  // the one the report's date is moved on from.
   const int hour = ws.date_boxes_hour >= 0 ? ws.date_boxes_hour : ws.now().hour;
   if (ws.FrmOption.Combo1.text != station_kind || hour != clock_hour) return;
   bool hour_matches = false;
@@ -342,7 +332,7 @@ void run_synop(Desk& ws) {
     forget_synop(ws);
     return;
   }
-  enable_observer(ws);
+  open_observer_list(ws);
 }
 
 void wire_synop(Desk& ws) {

@@ -44,7 +44,8 @@ WindGroups wind_groups(std::string_view n, std::string_view dd, std::string_view
   std::string f = num(coder_number(ff));
   if (len(f) == 1) f = "0" + f;
   if (len(f) == 3) {
-    // A speed of 100 or more: the system marks it so, and it stays so.
+    // A speed of 100 or more does not fit ff: it goes out as "//" with "OO//"
+    // in OOFFF, the mark the centre reads for a speed too high to code here.
     f = "//";
     out.oofff = "OO//";
   }

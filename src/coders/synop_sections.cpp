@@ -1,5 +1,6 @@
 #include "coders/synop_sections.h"
 
+#include "checks/temperature.h"
 #include "coders/coder_common.h"
 #include "coders/synop_groups.h"
 #include "core/textnum.h"
@@ -241,29 +242,9 @@ std::optional<std::string> rain24_group(std::string_view rain) {
   return group;
 }
 
-std::optional<GroundMinimum> ground_minimum(std::string_view text) {
-  const std::string t = trim(text);
-  if (t.empty() || t == "/" || t == "." || t == "-") return std::nullopt;
-  double v = coder_number(t);
-  const bool ends_in_5 = t.back() == '5';
-  GroundMinimum g;
-  if (v < 0) {
-    if (ends_in_5) v -= 0.1;
-    g.sign = "1";
-    g.temp = two_figures(round_to(-v));
-  } else {
-    if (ends_in_5) v += 0.1;
-    g.sign = "0";
-    g.temp = two_figures(round_to(v));
-  }
-  return g;
-}
-
 // 4E'sss
 std::string snow_group(std::string_view ground_code, std::string_view snow) {
-  double sss = round_to(coder_number(snow));
-  if (sss == 0) sss = 997;
-  return "4" + std::string(ground_code) + pad_left(num(sss), 3);
+  return "4" + std::string(ground_code) + snow_depth_figures(snow, coder_number);
 }
 
 std::string pan_figure(std::string_view pan_kind) {

@@ -45,21 +45,15 @@ double section3_amount(std::string_view amount);
 std::string layer_group(const CloudRow& row, bool first_low);
 // The choice of the four boxes from the rows, starting from boxes as they are.
 CloudBoxes choose_cloud_boxes(const Section3Clouds& in, CloudBoxes boxes);
-// Cleaning, step 1: a box whose second figure is 9 without a vertical visibility.
+// A box whose second figure is 9 (sky obscured) goes when no vertical visibility
+// was given: an obscured sky is reported by its vertical visibility, not as a layer.
 void drop_obscured_boxes(CloudBoxes& boxes, std::string_view vv);
-// Cleaning, steps 3 and 4: eight oktas of the first layer leave box 0 alone,
+// After the obscured boxes go: eight oktas of the first layer leave box 0 alone,
 // and a box of no cover gives way to the boxes behind it.
 void compact_cloud_boxes(CloudBoxes& boxes, std::string_view valuel1);
 
 // 7R24R24R24R24 from the rain of 24 hours.
 std::optional<std::string> rain24_group(std::string_view rain);
-
-// The ground minimum as the state-of-ground picker keeps it: sign figure and
-// two figures of whole degrees; nullopt for "/", "", "." and "-".
-struct GroundMinimum {
-  std::string sign, temp;
-};
-std::optional<GroundMinimum> ground_minimum(std::string_view text);
 
 // 4E'sss: E' of the state of ground, sss of the total snow in cm.
 std::string snow_group(std::string_view ground_code, std::string_view snow);

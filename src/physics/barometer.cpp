@@ -122,7 +122,8 @@ PublishedPressure publish(const PressureResults& kept, std::string_view report_k
   out.QNH = round_text(kept.QNHRAW, 1);
   // Inches show two decimals by the length of the text: "29.9" becomes "29.90".
   // A value under 10 is not served by that count ("9.5" stays, "9.55" becomes
-  // "9.550"), and that stays so.
+  // "9.550"). Kept as the station's registers expect: QIN is stored in a field
+  // of fixed width, and a value under 10 inches is no real pressure anyway.
   out.QIN = round_text(kept.QINRAW, 2);
   if (len(out.QIN) == 4) out.QIN += "0";
   out.H850 = metar ? kNotForMetar : round_text(val(kept.H850STR), 1);

@@ -76,7 +76,8 @@ PublishedPressure publish(const PressureResults& kept, std::string_view report_k
 
 // ---- The steps, shared with ModuleINVERS ----------------------------------------
 
-// Latitude in radians, and what steps 1 to 6 leave behind.
+// Latitude in radians, and what the correction to station pressure leaves
+// behind for the reduction.
 struct PressureRun {
   const PressureInputs& in;
   PressureResults& kept;
@@ -89,9 +90,11 @@ struct PressureRun {
   void step(F&& f);
 };
 
-// Steps 1 to 6: latitude, correction TC, station pressure P.
+// Latitude, correction TC, station pressure P: each a step of its own, so a
+// fault in one leaves the earlier values standing.
 void correction_steps(PressureRun& run);
-// Steps 8 to 14: T12, virtual temperature, QFF, QNH, QIN, H850. Rounding of the
+// From station pressure to the published values: T12, virtual temperature, QFF,
+// QNH, QIN, H850. Rounding of the
 // inverse: QFF and QNH to 1 decimal, QIN to 2; the forward routine keeps them raw.
 void reduction_steps(PressureRun& run, bool inverse_rounding);
 

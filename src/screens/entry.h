@@ -23,8 +23,14 @@ const std::string& hour_text(const Desk& ws);
 bool hour_is(const Desk& ws, std::initializer_list<std::string_view> hours);
 // The station kind of the profile ("ايستگاه 12 ساعته" ...).
 const std::string& station_kind(const Desk& ws);
+// The profile names a 12-hour station.
+bool twelve_hour_station(const Desk& ws);
 // A 12-hour station at 18, 21 or 00 UTC: only the dry bulb is read.
 bool twelve_hour_night(const Desk& ws);
+
+// Every coder the report kind needs has run: SYNOP for "SYNOP", METAR for
+// both METAR kinds, SPECI for "SPECI", SYNOP and METAR for "SYN & MET".
+bool report_kind_coded(const Desk& ws);
 
 // The station heading: Sname, two blanks, Txtcod, two blanks, NumCod.
 std::string station_heading(const Desk& ws);

@@ -40,7 +40,9 @@ bool is_metar_kind(std::string_view kind);
 
 // Cloud type lists. Each item is eight characters with the code figure last, but
 // for the low list of Combo3 and the SYNOP list of Combo4, whose first item (and,
-// for Combo4, last item) is one blank short: those lists are to stay so.
+// for Combo4, last item) is one blank short. Kept as the station's registers
+// expect: the item is stored as chosen, and records already in the bank hold
+// the short form, which a padded item would no longer match.
 const std::vector<std::string>& low_cloud_types();      // Combo1, Combo2
 const std::vector<std::string>& low3_cloud_types();     // Combo3
 const std::vector<std::string>& synop_cloud_types();    // Combo4

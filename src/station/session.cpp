@@ -154,12 +154,7 @@ bool night_synop_coded(const Desk& ws) {
 
 // The coded flags the report kind needs before it may be confirmed.
 bool coded_for_kind(const Desk& ws) {
-  const std::string& kind = report_kind(ws);
-  if (kind == kSynop) return ws.SYNOP_coded != 0 || night_synop_coded(ws);
-  if (kind == kSynMet) return ws.SYNOP_coded != 0 && ws.METAR_coded != 0;
-  if (kind == kMetar || kind == kMetar30) return ws.METAR_coded != 0;
-  if (kind == kSpeci) return ws.SPECI_coded != 0;
-  return false;
+  return report_kind_coded(ws) || (report_kind(ws) == kSynop && night_synop_coded(ws));
 }
 
 // Only a choice from the list counts: typed text is put back to the heading.

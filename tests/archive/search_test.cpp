@@ -55,7 +55,8 @@ TEST(Search, EachDatePartFillsTheOtherCalendarAndTheSearchText) {
       {"ComMI", "DEC", {"2024", "DEC", "5", "1403", "آذر", "15", "Thursday", "24120506"}},
       {"TXTYEARmi", "2023", {"2023", "DEC", "5", "1402", "آذر", "15", "Tuesday", "23120506"}},
       {"txttime", "", {"2023", "DEC", "5", "1402", "آذر", "15", "Tuesday", "231205"}},
-      // The Persian side: 10 Azar comes back as the 31st of November, kept so.
+      // The Persian side: 10 Azar comes back as the 31st of November, as the
+      // records already archived hold it.
       {"TXTDAYsh", "10", {"2023", "NOV", "31", "1402", "آذر", "10", "", "231131"}},
       {"ComSH", "دي", {"2023", "DEC", "31", "1402", "دي", "10", "Sunday", "231231"}},
       {"TXTDAYsh", "11", {"2024", "JAN", "01", "1402", "دي", "11", "Monday", "240101"}},

@@ -4,6 +4,7 @@
 
 #include "checks/temperature.h"
 #include "checks/temperature_words.h"
+#include "coders/coder_common.h"
 #include "physics/entry_fixture.h"
 
 namespace obsdesk {
@@ -19,25 +20,35 @@ void show_groups(Entry& e) {
   e.k.Txttimesun.visible = true;
 }
 
+// The entry check and the coder share these figures; the coder reads strictly,
+// so a malformed minimum stops the coding instead of giving "00".
 TEST(Ground, MinimumFiguresForTheGroundGroup) {
   struct Row {
     const char* text;
     bool read;
     const char *sign, *value;
   } const rows[] = {
-      {"-3", true, "1", "03"}, {"-15", true, "1", "15"}, {"3", true, "0", "03"}, {"-2.5", true, "1", "03"},
-      {"2.5", true, "0", "03"}, {"0", true, "0", "00"},   {"/", false, "", ""},   {"-", false, "", ""},
+      {"-3", true, "1", "03"},  {"-15", true, "1", "15"},  {"3", true, "0", "03"},  {"-2.5", true, "1", "03"},
+      {"2.5", true, "0", "03"}, {"0", true, "0", "00"},    {"-0.4", true, "1", "00"}, {"-12.5", true, "1", "13"},
+      {" 2.5 ", true, "0", "03"}, {"/", false, "", ""},    {"-", false, "", ""},    {"-.", false, "", ""},
+      {"", false, "", ""},
   };
   for (const Row& r : rows) {
-    std::string sign, value;
-    EXPECT_EQ(ground_minimum_figures(r.text, sign, value), r.read) << r.text;
-    EXPECT_EQ(sign, r.sign) << r.text;
-    EXPECT_EQ(value, r.value) << r.text;
+    for (NumberReader read : {NumberReader{val}, NumberReader{coder_number}}) {
+      const auto g = ground_minimum(r.text, read);
+      ASSERT_EQ(g.has_value(), r.read) << r.text;
+      if (!g) continue;
+      EXPECT_EQ(g->sign, r.sign) << r.text;
+      EXPECT_EQ(g->temp, r.value) << r.text;
+    }
   }
+  EXPECT_THROW(ground_minimum("2x", coder_number), CoderError);
+  EXPECT_THROW(snow_depth_figures("5 cm", coder_number), CoderError);
 }
 
 TEST(Ground, SnowDepthFigures) {
-  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"5", "005"}, {"998", "998"}, {"999", "999"}})
+  for (auto [text, sss] : {std::pair{"", ""}, {"0", "997"}, {"/", "997"}, {"//", "997"}, {"5", "005"}, {"2.5", "002"},
+                           {"998", "998"}, {"999", "999"}})
     EXPECT_EQ(snow_depth_figures(text), sss) << text;
 }
 

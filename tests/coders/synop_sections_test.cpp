@@ -134,22 +134,6 @@ TEST(SynopSection3, RainOf24Hours) {
   EXPECT_THROW(rain24_group("a"), CoderError);
 }
 
-TEST(SynopSection3, GroundMinimumHalvesAwayFromZero) {
-  struct Case {
-    const char* text;
-    const char *sign, *temp;
-  };
-  const Case table[] = {{"-2.5", "1", "03"}, {"2.5", "0", "03"},   {"-0.4", "1", "00"},
-                        {"0", "0", "00"},    {"-12.5", "1", "13"}, {"3.4", "0", "03"}};
-  for (const Case& c : table) {
-    const auto g = ground_minimum(c.text);
-    ASSERT_TRUE(g) << c.text;
-    EXPECT_EQ(g->sign, c.sign) << c.text;
-    EXPECT_EQ(g->temp, c.temp) << c.text;
-  }
-  for (const char* none : {"/", "", ".", "-"}) EXPECT_FALSE(ground_minimum(none)) << none;
-}
-
 TEST(SynopSection3, SnowEvaporationSunshineRadiation) {
   const std::pair<const char*, const char*> snow[] = {
       {"0", "45997"}, {"12", "45012"}, {"998", "45998"}, {"999", "45999"}, {"2.5", "45002"},

@@ -142,7 +142,8 @@ TEST_F(Events, AFailingHandlerIsToldOnThePanelAndTheRestGoesOn) {
 }
 
 TEST_F(Events, AnEndlessChainOfChangesIsStopped) {
-  // Each change sets a longer text: every set differs, so only the depth stops it.
+  // Each change sets a longer text round a ring of three boxes: the chain comes
+  // back to A while A's handler still runs, and the re-entry guard stops it there.
   pad.A.on(Event::Change, [&](Desk& w) { w.set(pad.B, pad.A.text + "a"); });
   pad.B.on(Event::Change, [&](Desk& w) { w.set(pad.C, pad.B.text + "b"); });
   pad.C.on(Event::Change, [&](Desk& w) { w.set(pad.A, pad.C.text + "c"); });

@@ -144,7 +144,7 @@ TEST(Pressure, VapourBelowZeroStopsAfterTheStationPressure) {
   EXPECT_FALSE(r.notices[0].fault);
   EXPECT_EQ(r.notices[0].text, kMsgCheckWetBulb);
   EXPECT_LT(kept.E, 0);
-  EXPECT_NE(kept.TC, before.TC);  // steps 1 to 6 ran
+  EXPECT_NE(kept.TC, before.TC);  // the correction to station pressure ran
   EXPECT_NE(kept.P, before.P);
   EXPECT_EQ(kept.QFFSTR, before.QFFSTR);  // the rest stands from the call before
   EXPECT_EQ(kept.H850STR, before.H850STR);
