@@ -16,7 +16,7 @@ class Desk;
 // A past value as the editor takes it: its first four characters are digits,
 // "/", "." or the character of code 250, with one "." at most among them. A
 // minus sign is not taken: this editor accepts no negative value.
-bool past_value_ok(const std::string& text);
+[[nodiscard]] bool past_value_ok(const std::string& text);
 
 // The hour box: "", "0", "1" and "2" while typing, two characters only as one
 // of the eight main hours; "24" is written "00". Returns the text the box keeps.

@@ -88,24 +88,21 @@ std::string past_path(std::string_view prog) { return std::string(prog) + "\\ban
 std::string id_row_path(std::string_view prog) { return std::string(prog) + "\\bank\\access\\ID.mdb"; }
 
 std::unique_ptr<BankLock> BankLock::acquire(const fs::path& root, std::string* reason) {
-  const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fd < 0) {
+  Fd fd = Fd::open(root, O_RDONLY | O_DIRECTORY);
+  if (!fd) {
     if (reason != nullptr) *reason = std::strerror(errno);
     return nullptr;
   }
-  if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+  if (::flock(fd.get(), LOCK_EX | LOCK_NB) != 0) {
     const int err = errno;
-    ::close(fd);
     if (reason != nullptr) *reason = err == EWOULDBLOCK ? std::string() : std::string(std::strerror(err));
     return nullptr;
   }
-  return std::unique_ptr<BankLock>(new BankLock(fd));
+  return std::unique_ptr<BankLock>(new BankLock(std::move(fd)));
 }
 
-BankLock::~BankLock() {
-  ::flock(fd_, LOCK_UN);
-  ::close(fd_);
-}
+// Closing the descriptor lets the lock go with it.
+BankLock::~BankLock() = default;
 
 bool bank_is_new(const fs::path& root) {
   std::error_code ec;

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bank/fd.h"
 #include "core/services.h"
 
 namespace obsdesk {
@@ -45,8 +46,8 @@ class BankLock {
   BankLock& operator=(const BankLock&) = delete;
 
  private:
-  explicit BankLock(int fd) : fd_(fd) {}
-  int fd_;
+  explicit BankLock(Fd fd) : fd_(std::move(fd)) {}
+  Fd fd_;
 };
 
 // True when the root holds no bank yet (missing or without the program folder).

@@ -10,6 +10,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "bank/fd.h"
 #include "bank/sqlite.h"
 
 namespace obsdesk {
@@ -42,32 +43,26 @@ std::int64_t length_of(const fs::path& file) {
   return static_cast<std::int64_t>(st.st_size);
 }
 
-// A file descriptor closed on every way out.
-class Fd {
+// A file the journal writes: opening it is announced to the seam, and a file
+// that cannot be opened or closed is told in the runtime's words.
+class OpenFile {
  public:
-  Fd(FileSeam* seam, const fs::path& file, int flags) : file_(file) {
+  OpenFile(FileSeam* seam, const fs::path& file, int flags) : file_(file) {
     announce(seam, FileCall::Open, file);
-    fd_ = ::open(file.c_str(), flags | O_CLOEXEC, 0644);
-    if (fd_ < 0) file_error(file, errno);
+    fd_ = Fd::open(file, flags);
+    if (!fd_) file_error(file, errno);
   }
-  ~Fd() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  Fd(const Fd&) = delete;
-  Fd& operator=(const Fd&) = delete;
-  int get() const { return fd_; }
+  int get() const { return fd_.get(); }
   void close() {
-    const int fd = fd_;
-    fd_ = -1;
-    if (::close(fd) != 0) file_error(file_, errno);
+    if (const int err = fd_.close(); err != 0) file_error(file_, err);
   }
 
  private:
   fs::path file_;
-  int fd_ = -1;
+  Fd fd_;
 };
 
-void write_all(FileSeam* seam, const Fd& fd, const fs::path& file, std::string_view bytes) {
+void write_all(FileSeam* seam, const OpenFile& fd, const fs::path& file, std::string_view bytes) {
   announce(seam, FileCall::Write, file);
   std::size_t done = 0;
   while (done < bytes.size()) {
@@ -80,7 +75,7 @@ void write_all(FileSeam* seam, const Fd& fd, const fs::path& file, std::string_v
   }
 }
 
-void cut(FileSeam* seam, const Fd& fd, const fs::path& file, std::int64_t length) {
+void cut(FileSeam* seam, const OpenFile& fd, const fs::path& file, std::int64_t length) {
   announce(seam, FileCall::Cut, file);
   if (::ftruncate(fd.get(), static_cast<off_t>(length)) != 0) file_error(file, errno);
 }
@@ -93,7 +88,7 @@ void remove_file(FileSeam* seam, const fs::path& file) {
 
 void write_temporary(FileSeam* seam, const fs::path& file, std::string_view bytes) {
   const fs::path tmp = temporary_of(file);
-  Fd fd(seam, tmp, O_WRONLY | O_CREAT | O_TRUNC);
+  OpenFile fd(seam, tmp, O_WRONLY | O_CREAT | O_TRUNC);
   write_all(seam, fd, tmp, bytes);
   fd.close();
 }
@@ -115,7 +110,7 @@ bool undo_append(FileSeam* seam, const SaveJournal::Op& op) {
     return true;
   }
   if (now <= op.before) return false;
-  Fd fd(seam, op.file, O_WRONLY);
+  OpenFile fd(seam, op.file, O_WRONLY);
   cut(seam, fd, op.file, op.before);
   fd.close();
   return true;
@@ -123,16 +118,15 @@ bool undo_append(FileSeam* seam, const SaveJournal::Op& op) {
 
 // True when the file holds exactly these bytes at this offset.
 bool stands_at(const fs::path& file, std::int64_t offset, std::string_view bytes) {
-  const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return false;
+  const Fd fd = Fd::open(file, O_RDONLY);
+  if (!fd) return false;
   std::string got(bytes.size(), '\0');
   std::size_t done = 0;
   while (done < got.size()) {
-    const ssize_t n = ::pread(fd, got.data() + done, got.size() - done, static_cast<off_t>(offset) + static_cast<off_t>(done));
+    const ssize_t n = ::pread(fd.get(), got.data() + done, got.size() - done, static_cast<off_t>(offset) + static_cast<off_t>(done));
     if (n <= 0) break;
     done += static_cast<std::size_t>(n);
   }
-  ::close(fd);
   return done == got.size() && got == bytes;
 }
 
@@ -147,7 +141,7 @@ bool holds_exactly(const fs::path& file, std::string_view bytes) {
 bool redo_append(FileSeam* seam, const SaveJournal::Op& op) {
   const std::int64_t before = std::max<std::int64_t>(op.before, 0);
   if (stands_at(op.file, before, op.bytes)) return false;
-  Fd fd(seam, op.file, O_WRONLY | O_CREAT);
+  OpenFile fd(seam, op.file, O_WRONLY | O_CREAT);
   const std::int64_t now = length_of(op.file);
   if (now > before) cut(seam, fd, op.file, before);
   announce(seam, FileCall::Write, op.file);
@@ -189,7 +183,7 @@ void SaveJournal::write() const {
       write_temporary(seam_, op.file, op.bytes);
       continue;
     }
-    Fd fd(seam_, op.file, O_WRONLY | O_CREAT | O_APPEND);
+    OpenFile fd(seam_, op.file, O_WRONLY | O_CREAT | O_APPEND);
     write_all(seam_, fd, op.file, op.bytes);
     fd.close();
   }
@@ -390,14 +384,10 @@ Recovery finish_pending(Database& db, const fs::path& root, FileSeam* seam, bool
 
 void flush_files(const fs::path& root, FileSeam* seam) {
   announce(seam, FileCall::Flush, root);
-  const int fd = ::open(root.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (fd < 0) file_error(root, errno);
-  if (::syncfs(fd) != 0) {
-    const int err = errno;
-    ::close(fd);
-    file_error(root, err);
-  }
-  ::close(fd);
+  Fd fd = Fd::open(root, O_RDONLY | O_DIRECTORY);
+  if (!fd) file_error(root, errno);
+  if (::syncfs(fd.get()) != 0) file_error(root, errno);
+  if (const int err = fd.close(); err != 0) file_error(root, err);
 }
 
 }  // namespace obsdesk

@@ -63,8 +63,8 @@ class Recordset {
   void remove();
 
   // False, and the current row unchanged, when nothing matches.
-  bool find_first(std::string_view column, std::string_view like_pattern);
-  bool find_next(std::string_view column, std::string_view like_pattern);
+  [[nodiscard]] bool find_first(std::string_view column, std::string_view like_pattern);
+  [[nodiscard]] bool find_next(std::string_view column, std::string_view like_pattern);
 
   // Reads the table anew and stands on its first row.
   void requery();

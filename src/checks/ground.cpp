@@ -68,7 +68,8 @@ constexpr std::array<SoilDepth, 6> kSoil = {{
 void soil_leave(Desk& ws, Control& box, int row) {
   if (!is_reading(box.text)) return;
   if (!within_hard(ws, box, val(box.text), row, words::kExtremeOutOfRange)) return;
-  within_soft(ws, box, val(box.text), row, words::kConfirmTemperature);
+  // Last of the box's tests: a No has emptied the box already, nothing follows.
+  static_cast<void>(within_soft(ws, box, val(box.text), row, words::kConfirmTemperature));
 }
 
 // ---- Ground minimum and snow ------------------------------------------------------

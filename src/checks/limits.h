@@ -13,20 +13,20 @@ class Desk;
 struct Control;
 
 // A text that reads as a value to test: not "", "-", ".", "-.", "/" or "//".
-bool is_reading(const std::string& text);
+[[nodiscard]] bool is_reading(const std::string& text);
 
 
 // False (and refused with the words) when the value lies outside the hard pair
 // of the row.
-bool within_hard(Desk& ws, Control& box, double v, int row, const char* words);
+[[nodiscard]] bool within_hard(Desk& ws, Control& box, double v, int row, const char* words);
 // False (and emptied, focus back) when the value lies outside the soft pair of
 // the row and the observer answers No.
-bool within_soft(Desk& ws, Control& box, double v, int row, const char* question);
+[[nodiscard]] bool within_soft(Desk& ws, Control& box, double v, int row, const char* question);
 
 // The numeric typing rule of the thermometer boxes: "", ".", "-", "-." pass (and
 // "/" where allowed); otherwise at most five characters of figures, "-", "." and
 // the character of code 250, with no second point among the first four.
-bool thermometer_text_ok(const std::string& text, bool slash_ok);
+[[nodiscard]] bool thermometer_text_ok(const std::string& text, bool slash_ok);
 // On a change: a bad text is refused with the words of the thermometers.
 void thermometer_typing(Desk& ws, Control& box, bool slash_ok);
 

@@ -182,12 +182,16 @@ void Text41_leave(Desk& ws) {
   if (check_reading(ws, ws.FrmKashf.Text41, true) == Reading::Good && barograph_guard(ws)) compute_pressure(ws);
 }
 
+}  // namespace
+
 void Text13_key_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text13.text.empty()) return;
   if (k.Text13.text != "-" && !attached_thermometer_ok(ws, 45)) return;
   ws.focus(k.Text14);
 }
+
+namespace {
 
 // A thermometer box that a rule has emptied takes with it every value worked out
 // from it: humidity, vapour pressure, dew point and the pressures. Left alone
@@ -202,6 +206,8 @@ void empty_values_of_refused_reading(Desk& ws) {
   ws.set(wet_typed ? k.Text31 : k.Text28, "");
 }
 
+}  // namespace
+
 void thermometer_key_up(Desk& ws) {
   if (thermometer_guard(ws))
     compute_pressure(ws);
@@ -212,6 +218,8 @@ void thermometer_key_up(Desk& ws) {
 void txtt12_key_up(Desk& ws) {
   if (t12_guard(ws)) compute_pressure(ws);
 }
+
+namespace {
 
 // RH typed in the humidity mode: every change but "" and "." is the new raw
 // value; the published value that comes back counts as typed too.
@@ -244,6 +252,8 @@ void Text30_change(Desk& ws) {
   if (!e.text.empty()) ws.set(e, round_text(val(e.text), 2));
 }
 
+}  // namespace
+
 // A wet bulb cannot stand above the dry bulb: above -3.2 a margin of 0.2 is
 // allowed for the reading.
 void Text28_key_enter(Desk& ws) {
@@ -265,7 +275,6 @@ void Text28_key_enter(Desk& ws) {
   choose_barometer_box(ws, true);
 }
 
-}  // namespace
 
 void compute_pressure(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
@@ -387,14 +396,10 @@ void bind_pressure_entry(Desk& ws) {
   k.Text41.on(Event::Change, Text41_change);
   k.Text41.on(Event::Leave, Text41_leave);
   k.Text41.on(Event::KeyEnter, [](Desk& w) { reading_key_enter(w, w.FrmKashf.Text41); });
-  k.Text13.on(Event::KeyEnter, Text13_key_enter);
-  for (Control* c : Controls{&k.Text27, &k.Text28, &k.Text13}) c->on(Event::KeyUp, thermometer_key_up);
-  k.txtt12.on(Event::KeyUp, txtt12_key_up);
   k.Text31.on(Event::Change, Text31_change);
   k.Text31.on(Event::KeyEnter, Text31_key_enter);
   k.Text31.on(Event::Leave, Text31_leave);
   k.Text30.on(Event::Change, Text30_change);
-  k.Text28.on(Event::KeyEnter, Text28_key_enter);
 }
 
 }  // namespace obsdesk

@@ -22,10 +22,10 @@ void empty_derived(Desk& ws);
 void choose_barometer_box(Desk& ws, bool move_focus);
 
 // The guards of the callers.
-bool thermometer_guard(Desk& ws);  // key released in TDRY, TWET, TP
-bool t12_guard(Desk& ws);          // key released in txtt12
-bool reading_guard(Desk& ws);      // Text14 changed
-bool barograph_guard(Desk& ws);    // Text41 left
+[[nodiscard]] bool thermometer_guard(Desk& ws);  // key released in TDRY, TWET, TP
+[[nodiscard]] bool t12_guard(Desk& ws);          // key released in txtt12
+[[nodiscard]] bool reading_guard(Desk& ws);      // Text14 changed
+[[nodiscard]] bool barograph_guard(Desk& ws);    // Text41 left
 
 // The result of the typing checks of a barometer reading.
 enum class Reading {
@@ -38,7 +38,14 @@ Reading check_reading(Desk& ws, Control& box, bool empty_on_refusal);
 // The attached thermometer against its limits (hard maximum 45 on Enter, 50
 // when the barometer box gets the focus); a breach empties TP and takes the
 // focus back. True when it stands.
-bool attached_thermometer_ok(Desk& ws, double hard_max);
+[[nodiscard]] bool attached_thermometer_ok(Desk& ws, double hard_max);
+
+// The pressure side of the thermometer boxes, bound with their other handlers
+// in one place (bind_temperature_checks):
+void Text13_key_enter(Desk& ws);    // TP: tested, then the barometer box
+void Text28_key_enter(Desk& ws);    // TWET: against the dry bulb, then the routine
+void thermometer_key_up(Desk& ws);  // TDRY, TWET, TP: the routine once all stand
+void txtt12_key_up(Desk& ws);       // txtt12: the same, the reduction's T12
 
 void bind_pressure_entry(Desk& ws);
 

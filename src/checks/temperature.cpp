@@ -63,7 +63,7 @@ void Text27_change(Desk& ws) {
 void Text27_enter(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   FrmMain& m = ws.FrmMain;
-  // 1. A METAR continues the last main report three hours on.
+  // A METAR continues the last main report three hours on.
   if (report_kind(ws) == ReportKind::Metar) {
     const double hour = val(k.Text1.text);
     const bool follows = m.txtutcpast.text == "21" ? hour == 0 : hour == val(m.txtutcpast.text) + 3;
@@ -74,22 +74,23 @@ void Text27_enter(Desk& ws) {
       return;
     }
   }
-  // 2.
+  // The hour is stored in two figures.
   if (len(k.Text1.text) == 1) ws.set(k.Text1, "0" + k.Text1.text);
-  // 3. Whatever was derived from the old readings goes.
+  // Whatever was derived from the old readings goes.
   empty_derived(ws);
-  // 4. A sky hidden by fog needs its vertical visibility.
+  // A sky hidden by fog needs its vertical visibility.
   if (!twelve_hour_station(ws) && k.Text5.text == "9" && k.Text12.text.empty()) {
     ws.error(words::kEnterVerticalVisibility);
     ws.focus(k.Text12);
     return;
   }
-  // 5. The temperature of twelve hours before.
+  // The temperature of twelve hours before.
   Control& t12 = k.txtt12;
   if (len(t12.text) == 1 && is_digit(t12.text)) ws.set(t12, "0" + t12.text);
   if (!t12.text.empty() && t12.text != "-") {
+    // A No empties the box; nothing follows either way.
     if (within_hard(ws, t12, val(t12.text), kAir, words::kTemperatureOutOfRange))
-      within_soft(ws, t12, val(t12.text), kAir, words::kConfirmBoxBefore);
+      static_cast<void>(within_soft(ws, t12, val(t12.text), kAir, words::kConfirmBoxBefore));
   }
 }
 
@@ -118,18 +119,19 @@ void Text27_leave(Desk& ws) {
   FrmMain& m = ws.FrmMain;
   Control& tdry = k.Text27;
   const std::string hour = k.Text1.text.empty() ? k.txt1.text : k.Text1.text;
-  // 1.
+  // With an hour given, a dry bulb outside the air's hard pair is refused and
+  // nothing below runs, so no table takes a value that was turned away.
   if (!hour.empty() && is_reading(tdry.text) &&
       !within_hard(ws, tdry, val(tdry.text), kAir, words::kTemperatureOutOfRange))
     return;
-  // 2. The barometer box of the station.
+  // The barometer box of the station.
   if (val(ws.FrmOption.txtPnegar.text) == 1) {
     k.FraNegar.visible = true;
   } else {
     k.FraNegar.visible = false;
     k.Text14.visible = true;
   }
-  // 3. The day's table of temperatures that this report writes back.
+  // The day's table of temperatures that this report writes back.
   const int index = k.Text1.text.empty() ? -1 : main_hour_index(int_val(k.Text1.text));
   const bool keeps_table =
       report_kind(ws) == ReportKind::SynMet || (report_kind(ws) == ReportKind::Synop && twelve_hour_station(ws));
@@ -154,7 +156,8 @@ void Text28_enter(Desk& ws) {
   if (!is_reading(tdry.text)) return;
   ws.set(tdry, round_text(val(tdry.text), 1));
   if (!within_hard(ws, tdry, val(tdry.text), kAir, words::kTemperatureOutOfRange)) return;
-  within_soft(ws, tdry, val(tdry.text), kAir, words::kConfirmBoxBefore);
+  // A No empties the dry bulb; the wet bulb is begun either way.
+  static_cast<void>(within_soft(ws, tdry, val(tdry.text), kAir, words::kConfirmBoxBefore));
 }
 
 void Text28_leave(Desk& ws) {
@@ -305,6 +308,9 @@ void Text18_change(Desk& ws) {
 
 }  // namespace
 
+// Every handler of the dry, wet and attached thermometers and of txtt12 is
+// bound here, the pressure routine's among them, so one place shows all that
+// a key in those boxes sets off.
 void bind_temperature_checks(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text27.on(Event::Change, Text27_change);
@@ -313,10 +319,14 @@ void bind_temperature_checks(Desk& ws) {
   k.Text27.on(Event::Leave, Text27_leave);
   k.Text28.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text28, false); });
   k.Text28.on(Event::Enter, Text28_enter);
+  k.Text28.on(Event::KeyEnter, Text28_key_enter);
   k.Text28.on(Event::Leave, Text28_leave);
   k.Text13.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text13, false); });
+  k.Text13.on(Event::KeyEnter, Text13_key_enter);
+  for (Control* c : Controls{&k.Text27, &k.Text28, &k.Text13}) c->on(Event::KeyUp, thermometer_key_up);
   k.txtt12.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.txtt12, false); });
   k.txtt12.on(Event::KeyEnter, txtt12_key_enter);
+  k.txtt12.on(Event::KeyUp, txtt12_key_up);
   k.Text59.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text59, false); });
   k.Text60.on(Event::Change, [](Desk& w) { thermometer_typing(w, w.FrmKashf.Text60, false); });
   k.Text59.on(Event::Enter, Text59_enter);

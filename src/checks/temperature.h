@@ -23,11 +23,11 @@ using NumberReader = double (*)(std::string_view);
 struct GroundMinimum {
   std::string sign, temp;
 };
-std::optional<GroundMinimum> ground_minimum(std::string_view text, NumberReader read = val);
+[[nodiscard]] std::optional<GroundMinimum> ground_minimum(std::string_view text, NumberReader read = val);
 
 // sss of the total snow for 4E'sss: whole centimetres in three figures, 0 as
-// "997"; "" for an empty box. Read leniently, a text that is no number ("/", "//") reads as 0
-// and so gives "997" too.
+// "997"; "" for an empty box. Read leniently, a text that is no number ("/",
+// "//") counts as 0 and so gives "997" too; a strict reader throws on it.
 std::string snow_depth_figures(std::string_view text, NumberReader read = val);
 
 // Evaporation from the water added (cc) with the rain r, and back.

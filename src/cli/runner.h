@@ -52,7 +52,7 @@ class Runner {
 
   // Runs one command; false when an expect failed (the difference is in
   // *failure). Throws ScriptError for a line it cannot run.
-  bool execute(const std::vector<std::string>& words, std::string* failure);
+  [[nodiscard]] bool execute(const std::vector<std::string>& words, std::string* failure);
 
   Workstation* workstation() { return ws_.get(); }
 

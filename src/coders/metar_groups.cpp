@@ -265,7 +265,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       put(b, c.H);
   };
 
-  // 1: no first low layer.
+  // No first low layer.
   if (c.a1 == 0 && !c.conv2 && !c.conv3) {
     if (c.aM == 0 || c.middle_trace) {
       put(1, c.H);
@@ -274,7 +274,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       if (c.aH > 2) put(2, c.H);
     }
   }
-  // 2: a first low layer that is not convective.
+  // A first low layer that is not convective.
   if (c.a1 > 0 && !c.conv1) {
     put(1, c.L1);
     if (c.a2 > 2 && !c.conv2) {
@@ -290,7 +290,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       tail(2, 2, 4);
     }
   }
-  // 3: a convective first layer.
+  // A convective first layer.
   if (c.conv1) {
     put(1, c.L1);
     if (c.a2 > 0) {
@@ -309,7 +309,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       tail(2, 0, 2);
     }
   }
-  // 4: a convective second layer over a plain first one.
+  // A convective second layer over a plain first one.
   if (c.a1 > 0 && !c.conv1 && c.conv2) {
     if (c.a3 > 2 && !c.conv3) {
       put(1, c.L1);
@@ -323,7 +323,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       tail(3, 2, 4);
     }
   }
-  // 5: a convective third layer over two plain ones.
+  // A convective third layer over two plain ones.
   if (c.a1 > 0 && !c.conv1 && !c.conv2 && c.conv3) {
     if (c.a2 > 2) {
       put(1, c.L1);
@@ -335,7 +335,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       tail(3, 2, 4);
     }
   }
-  // 6: the first two convective, the third not.
+  // The first two convective, the third not.
   if (c.conv1 && c.conv2 && !c.conv3) {
     put(1, c.L1);
     put(2, c.L2);
@@ -346,7 +346,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       tail(4, 2, 4);
     }
   }
-  // 7: the first and third convective around a plain second.
+  // The first and third convective around a plain second.
   if (c.conv1 && c.conv3 && c.a2 > 0 && !c.conv2) {
     put(1, c.L1);
     put(2, c.L2);
@@ -358,7 +358,7 @@ std::array<std::string, 5> cloud_groups(const CloudLayers& c) {
       put(4, c.H);
     }
   }
-  // 8: the second and third convective over a plain first.
+  // The second and third convective over a plain first.
   if (c.a1 > 0 && !c.conv1 && c.conv2 && c.conv3) {
     put(1, c.L1);
     put(2, c.L2);

@@ -97,7 +97,7 @@ class Engine {
   // Shows a caption on the message panel and goes on.
   void error(std::string caption);
   // A blocking yes-or-no question.
-  bool ask(const std::string& question);
+  [[nodiscard]] bool ask(const std::string& question);
   // A plain message box with an OK button.
   void message(const std::string& text, const std::string& title = {});
   void show(Screen& s);

@@ -62,7 +62,7 @@ class FixedClock : public Clock {
 };
 
 // "YYYY-MM-DD HH:MM" (seconds optional); false when the text is no such time.
-bool parse_date_time(const std::string& text, DateTime& out);
+[[nodiscard]] bool parse_date_time(const std::string& text, DateTime& out);
 
 class Clipboard {
  public:

@@ -28,7 +28,7 @@ class Desktop {
 
   // Starts the program on the bank and shows the start screen. False when it
   // could not start (the bank cannot be made, or another copy runs on it).
-  bool start(std::string* why = nullptr);
+  [[nodiscard]] bool start(std::string* why = nullptr);
 
   Workstation& workstation() { return *ws_; }
   Binder& binder() { return *binder_; }

@@ -20,26 +20,26 @@ void correction_steps(PressureRun& run) {
   const PressureInputs& in = run.in;
   PressureResults& kept = run.kept;
   double Ct = 0, Cphi = 0, Ch = 0;
-  // 1. Latitude.
+  // Latitude.
   run.step([&] {
     run.phi = (in.q1 + in.q2 / 60) * (kPi / 180);
     run.c2 = std::cos(2 * run.phi);
   });
-  // 2. Temperature of the mercury and of the scale.
+  // Temperature of the mercury and of the scale.
   run.step([&] {
     Ct = fm::finite(fm::div(-in.PREAD * (kAlpha - kBeta) * in.TP, 1 + kAlpha * in.TP) -
                     (kAlpha - 3 * kGamma) * (kCistern * 1.333224) * in.TP);
   });
-  // 3. Gravity by latitude, against standard gravity 980.665 cm/s2.
+  // Gravity by latitude, against standard gravity 980.665 cm/s2.
   run.step([&] {
     Cphi = fm::finite(((1 - 0.0026373 * run.c2 + 5.9e-06 * run.c2 * run.c2) * (980.616 / 980.665) - 1) * in.PREAD);
   });
-  // 4. Gravity by height.
+  // Gravity by height.
   run.step([&] { Ch = fm::finite((-2.007e-07 * in.h) * in.PREAD + (-1.14e-07 * (in.h / 2)) * in.PREAD); });
-  // 5.
+  // The whole correction, the sum of the three.
   run.step([&] { kept.TC = fm::finite(Cphi + Ch + Ct); });
-  // 6. Station pressure: the corrected reading of the mercury barometer, or the
-  //    barograph's reading as it stands.
+  // Station pressure: the corrected reading of the mercury barometer, or the
+  // barograph's reading as it stands.
   run.step([&] { kept.P = fm::finite(in.mercury ? in.PREAD + kept.TC : in.barograph); });
 }
 
@@ -49,33 +49,33 @@ void reduction_steps(PressureRun& run, bool inverse_rounding) {
   const double phi = run.phi;
   const double sin2 = std::sin(phi) * std::sin(phi);
   const double sin2phi2 = std::sin(2 * phi) * std::sin(2 * phi);
-  // 8. The temperature of twelve hours before; an empty text counts as 0.
+  // The temperature of twelve hours before; an empty text counts as 0.
   const double t = val(in.T12);
-  // 9. Mean virtual temperature of the column below the station.
+  // Mean virtual temperature of the column below the station.
   run.step([&] {
     kept.TV = fm::div(fm::finite((in.TDRY + t) / 2 + kVirtualKelvin), 1 - 0.378 * fm::div(kept.E, kept.P));
   });
-  // 10. Gravity at the station, m/s2.
+  // Gravity at the station, m/s2.
   const double g = 9.780356 * (1 + 0.0052885 * sin2 - 5.9e-06 * sin2phi2);
-  // 11. QFF, reduced to sea level with a gradient of 0.65 K per 100 m.
+  // QFF, reduced to sea level with a gradient of 0.65 K per 100 m.
   run.step([&] {
     const double qff = fm::finite(kept.P * fm::exp(fm::div(g * in.h, kRdry * (kept.TV + 0.00325 * in.h))));
     kept.QFFSTR = num(fm::finite(inverse_rounding ? round_to(qff, 1) : qff));
   });
-  // 12. QNH by the ICAO standard atmosphere.
+  // QNH by the ICAO standard atmosphere.
   run.step([&] {
     const double K = std::pow(1013.25, 0.190284) * 0.0065 / 288;
     const double S = fm::pow(kept.P - 0.3, 0.190284);
     const double qnh = fm::finite((kept.P - 0.3) * fm::pow(1 + K * fm::div(in.h, S), 1 / 0.190284));
     kept.QNHRAW = inverse_rounding ? round_to(qnh, 1) : qnh;
   });
-  // 13. QNH in inches of mercury.
+  // QNH in inches of mercury.
   run.step([&] {
     const double qin = kept.QNHRAW / 33.86389;
     kept.QINRAW = inverse_rounding ? round_to(qin, 2) : qin;
   });
-  // 14. Height of the 850 hPa level: the station's geopotential height plus the
-  //     thickness of the layer from P down to 850 hPa.
+  // Height of the 850 hPa level: the station's geopotential height plus the
+  // thickness of the layer from P down to 850 hPa.
   run.step([&] {
     const double g0 = (978.0356 * (1 + 0.0052885 * sin2 - 5.9e-06 * sin2phi2)) / 100;
     const double R =
@@ -89,8 +89,8 @@ void reduction_steps(PressureRun& run, bool inverse_rounding) {
 PressureReport DAMA_FASHAR(const PressureInputs& in, PressureResults& kept) {
   PressureRun run{in, kept, {}};
   correction_steps(run);
-  // 7. Vapour pressure; below 0 the wet bulb is wrong and the routine stops, the
-  //    results of the earlier call standing.
+  // Vapour pressure; below 0 the wet bulb is wrong and the routine stops, the
+  // results of the earlier call standing.
   run.step([&] { kept.E = vapour_pressure(in.TDRY, in.TWET, kept.P); });
   if (kept.E < 0) {
     run.report.vapour_below_zero = true;
@@ -98,9 +98,9 @@ PressureReport DAMA_FASHAR(const PressureInputs& in, PressureResults& kept) {
     return run.report;
   }
   reduction_steps(run, false);
-  // 15. Dew point.
+  // Dew point.
   run.step([&] { kept.TDRAW = round_to(dew_point_kelvin(kept.E) - kKelvin, 2); });
-  // 16. Relative humidity; out of range it is told, and the values stand.
+  // Relative humidity; out of range it is told, and the values stand.
   run.step([&] {
     kept.RHRAW = relative_humidity(kept.E, in.TDRY);
     if (kept.RHRAW > 100 || kept.RHRAW < 0.2) {

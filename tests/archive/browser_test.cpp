@@ -21,7 +21,6 @@ std::filesystem::path kashf_db(const Station& s) {
 
 // Rows put straight into the table before the browser opens: key, kind, hour.
 void add_rows(Station& s, std::initializer_list<std::array<const char*, 3>> rows) {
-  create_bank(s.root());
   Database db(kashf_db(s), Database::Mode::ReadWrite);
   for (const auto& r : rows)
     db.prepare("INSERT INTO KASHF (yymmddttgg, TYPEREPORT, UTC) VALUES (?, ?, ?)")

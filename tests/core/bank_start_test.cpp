@@ -46,7 +46,7 @@ TEST(BankStart, AFirstStartStoppedAtAnyStepLeavesNoBankOrAWholeOne) {
   test::TempDir dir;
   KillAt count(0);
   {
-    test::Station s;
+    test::Station s(test::Root::Empty);
     s.ws->file_seam = &count;
     s.start();
   }
@@ -190,6 +190,8 @@ TEST(BankStart, ARootThatCannotBeHeldIsToldWithItsReason) {
   ASSERT_TRUE(held);
   EXPECT_FALSE(BankLock::acquire(dir.path(), &reason));
   EXPECT_EQ(reason, "");  // another copy: the program's own words
+  held.reset();  // the copy that held it ends: the root is free again
+  EXPECT_TRUE(BankLock::acquire(dir.path(), &reason));
   std::ofstream(dir.path() / "plain") << "x";
   EXPECT_FALSE(BankLock::acquire(dir.path() / "plain", &reason));
   EXPECT_EQ(reason, "Not a directory");

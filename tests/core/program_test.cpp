@@ -142,7 +142,7 @@ TEST(Start, AMissingOrDamagedControlDatabaseIsToldByNameAndTheRestGoesOn) {
   std::filesystem::remove(resolve_bank_path(s.root(), "VARDOK\\Bank\\Access\\BackColor.MDB"));
   std::ofstream(resolve_bank_path(s.root(), "VARDOK\\Bank\\Access\\SelectOstan.MDB"), std::ios::trunc)
       << "garbage garbage garbage garbage garbage garbage garbage garbage garbage garbage";
-  Station again;
+  Station again(test::Root::Empty);
   std::filesystem::rename(s.root(), again.root());
   Desk& ws = again.start();
   const auto msgs = ws.take_messages();

@@ -173,7 +173,6 @@ TEST(Walk, TheBoardsOpenFromTheirPicturesShowHintsAndPick) {
 // fills the Gregorian ones and the key, and Find shows that row.
 TEST(Walk, ARecordIsFoundByItsPersianDate) {
   Rig d;
-  create_bank(d.st.root());
   {
     Database db(resolve_bank_path(d.st.root(), "VARDOK\\BANK\\OIII\\ACCESS\\Kashf.mdb"), Database::Mode::ReadWrite);
     for (const char* key : {"2403180600", "2403190600", "2403210600"})

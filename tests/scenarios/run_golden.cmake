@@ -2,6 +2,12 @@
 # expected file beside it. Set OBSDESK_UPDATE_GOLDEN=1 to write the expected file.
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK})
+# The bank starts as a copy of one made bank (making one syncs every database);
+# a scenario whose first line speaks of a first start begins on an empty folder.
+file(STRINGS ${SCENARIO} first_line LIMIT_COUNT 1)
+if(DEFINED MADE_BANK AND EXISTS ${MADE_BANK} AND NOT first_line MATCHES "first start")
+  file(COPY ${MADE_BANK}/ DESTINATION ${WORK}/bank)
+endif()
 string(REGEX REPLACE "\\.scenario$" ".out" expected ${SCENARIO})
 get_filename_component(scenario_dir ${SCENARIO} DIRECTORY)
 execute_process(

@@ -1,10 +1,14 @@
 #include "support/test_support.h"
 
+#include <cctype>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
 
+#include "bank/bank.h"
+#include "bank/sqlite.h"
+#include "screens/bank_tables.h"
 #include "station/program.h"
 
 namespace obsdesk::test {
@@ -21,7 +25,40 @@ TempDir::~TempDir() {
   std::filesystem::remove_all(path_, ec);
 }
 
-Station::Station(DateTime now) : clock(now) {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The made bank this process copies from.
+const fs::path& made_bank() {
+  static const fs::path made = [] {
+    if (const char* shared = std::getenv("OBSDESK_TEST_BANK"); shared != nullptr && !bank_is_new(shared))
+      return fs::path(shared);
+    static TempDir own;  // lives to the end of the process
+    make_bank(own.path());
+    return own.path();
+  }();
+  return made;
+}
+
+}  // namespace
+
+void make_bank(const fs::path& root) {
+  create_bank(root);
+  for (const auto& entry : fs::recursive_directory_iterator(root)) {
+    std::string ext = entry.path().extension().string();
+    for (char& c : ext) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    if (entry.is_regular_file() && ext == ".mdb") Database(entry.path(), Database::Mode::ReadWrite);
+  }
+}
+
+void copy_made_bank(const fs::path& root) {
+  fs::create_directories(root);
+  fs::copy(made_bank(), root, fs::copy_options::recursive);
+}
+
+Station::Station(DateTime now, Root holds) : clock(now) {
+  if (holds == Root::MadeBank) copy_made_bank(root());
   ws = std::make_unique<Workstation>(root(), Services{asker, clock, clipboard});
 }
 

@@ -1,6 +1,12 @@
 // Shared by the tests: a bank in a fresh temporary folder, and a workstation
 // started on it with a queue of answers, a clock set by hand and a clipboard in
 // memory.
+//
+// Making a bank syncs every database it creates, which is most of what a short
+// test costs on disk. So a test's bank is copied from one made bank: the folder
+// named by OBSDESK_TEST_BANK (made once per test run, before the tests), else
+// one made on first use in this process. A test that needs the first start
+// itself asks for an empty root.
 #pragma once
 
 #include <filesystem>
@@ -25,9 +31,22 @@ class TempDir {
   std::filesystem::path path_;
 };
 
+// Makes a bank in `root` as a first start does, with each database already
+// switched to the write-ahead log that every later opening asks for (a switch
+// is a synced write, so a copy that has it starts without one).
+void make_bank(const std::filesystem::path& root);
+
+// Copies a made bank, as a first start leaves it before anything is saved, into
+// `root` (which must not hold a bank yet).
+void copy_made_bank(const std::filesystem::path& root);
+
+// What a Station's root holds before the program starts.
+enum class Root { MadeBank, Empty };
+
 // A workstation on its own bank. start() runs the program start.
 struct Station {
-  explicit Station(DateTime now = {2024, 3, 20, 5, 40, 0});
+  explicit Station(DateTime now = {2024, 3, 20, 5, 40, 0}, Root holds = Root::MadeBank);
+  explicit Station(Root holds) : Station({2024, 3, 20, 5, 40, 0}, holds) {}
   TempDir dir;
   QueueAsker asker;
   FixedClock clock;
