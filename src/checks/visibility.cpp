@@ -64,7 +64,9 @@ void Text4_change(Desk& ws) {
   if (bad_visibility_place(vh.text) != 0) refuse(ws, vh, kTypeVisibility);
 }
 
-void Text4_enter(Desk& ws) {
+// Both visibilities wait for the wind speed: entering one with the speed box
+// empty sends the observer back to it.
+void wind_speed_first(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   if (k.Text3.text.empty()) {
     ws.error(kTypeSpeedFirst);
@@ -114,14 +116,6 @@ bool extreme_to_metres(Desk& ws, Control& box, const char* words, double& m) {
   }
   ws.set(box, num(m));
   return true;
-}
-
-void TxtVM_enter(Desk& ws) {
-  FrmKashf& k = ws.FrmKashf;
-  if (k.Text3.text.empty()) {
-    ws.error(kTypeSpeedFirst);
-    ws.focus(k.Text3);
-  }
 }
 
 void TxtVM_leave(Desk& ws) {
@@ -230,11 +224,11 @@ double cut_to_5000(double metres) {
 void wire_visibility(Desk& ws) {
   FrmKashf& k = ws.FrmKashf;
   k.Text4.on(Event::Change, Text4_change);
-  k.Text4.on(Event::Enter, Text4_enter);
+  k.Text4.on(Event::Enter, wind_speed_first);
   k.Text4.on(Event::Leave, Text4_leave);
   k.Text4.on(Event::KeyEnter, Text4_key_enter);
   k.TxtVM.on(Event::Change, [](Desk& w) { extreme_characters_ok(w, w.FrmKashf.TxtVM); });
-  k.TxtVM.on(Event::Enter, TxtVM_enter);
+  k.TxtVM.on(Event::Enter, wind_speed_first);
   k.TxtVM.on(Event::Leave, TxtVM_leave);
   k.TxtVM.on(Event::KeyEnter, TxtVM_key_enter);
   k.Text26.on(Event::Change, Text26_change);
