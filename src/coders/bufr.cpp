@@ -150,21 +150,15 @@ class Writer {
   // as missing, so nothing of the message before stays behind.
   void put(std::string_view name, std::optional<double> v) {
     const std::string key = cursor_.next(name);
-    if (v) {
-      char text[32];
-      std::snprintf(text, sizeof text, "d%a", *v);
-      if (fresh(key, text)) check(codes_set_double(h_, key.c_str(), *v), key);
-    } else if (fresh(key, "m")) {
-      check(codes_set_missing(h_, key.c_str()), key);
-    }
+    if (!v) return missing(key);
+    char held[32];
+    std::snprintf(held, sizeof held, "d%a", *v);
+    apply(key, held, [&] { return codes_set_double(h_, key.c_str(), *v); });
   }
   void put(std::string_view name, std::optional<long> v) {
     const std::string key = cursor_.next(name);
-    if (v) {
-      if (fresh(key, "l" + std::to_string(*v))) check(codes_set_long(h_, key.c_str(), *v), key);
-    } else if (fresh(key, "m")) {
-      check(codes_set_missing(h_, key.c_str()), key);
-    }
+    if (!v) return missing(key);
+    apply(key, "l" + std::to_string(*v), [&] { return codes_set_long(h_, key.c_str(), *v); });
   }
   void put(std::string_view name, std::optional<int> v) {
     put(name, v ? std::optional<long>(*v) : std::nullopt);
@@ -172,23 +166,25 @@ class Writer {
   void skip_past(std::string_view name) { cursor_.next(name); }
   void put_text(std::string_view name, const std::string& text) {
     const std::string key = cursor_.next(name);
-    if (text.empty()) {
-      if (fresh(key, "m")) check(codes_set_missing(h_, key.c_str()), key);
-      return;
-    }
-    if (!fresh(key, "s" + text)) return;
-    size_t n = text.size();
-    check(codes_set_string(h_, key.c_str(), text.c_str(), &n), key);
+    if (text.empty()) return missing(key);
+    apply(key, "s" + text, [&] {
+      size_t n = text.size();
+      return codes_set_string(h_, key.c_str(), text.c_str(), &n);
+    });
   }
 
  private:
-  // True when the handle does not hold this value yet; it is noted as held
+  // Sets the value unless the handle holds it already; it is noted as held
   // before the call that sets it, and a failed call drops the whole handle.
-  bool fresh(const std::string& key, std::string value) {
+  template <typename Set>
+  void apply(const std::string& key, std::string value, Set set) {
     std::string& held = last_[key];
-    if (held == value) return false;
+    if (held == value) return;
     held = std::move(value);
-    return true;
+    check(set(), key);
+  }
+  void missing(const std::string& key) {
+    apply(key, "m", [&] { return codes_set_missing(h_, key.c_str()); });
   }
 
   codes_handle* h_;
